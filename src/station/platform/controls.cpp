@@ -1,0 +1,306 @@
+#include "station/platform/controls.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "station/platform/event_gate.h"
+#include "station/platform/files.h"
+#include "station/platform/screen.h"
+#include "station/platform/text.h"
+
+namespace quixair {
+
+std::string_view NameOf(ControlKind kind) {
+  switch (kind) {
+    case ControlKind::kLabel: return "Label";
+    case ControlKind::kTextBox: return "TextBox";
+    case ControlKind::kListBox: return "ListBox";
+    case ControlKind::kCheckBox: return "CheckBox";
+    case ControlKind::kOptionButton: return "OptionButton";
+    case ControlKind::kButton: return "Button";
+    case ControlKind::kFrame: return "Frame";
+    case ControlKind::kFileListBox: return "FileListBox";
+    case ControlKind::kTimer: return "Timer";
+    case ControlKind::kMedia: return "MediaControl";
+    case ControlKind::kMenu: return "Menu";
+  }
+  return "Control";
+}
+
+Control::Control(ControlOwner& owner, std::string name, ControlKind kind)
+    : screen_(owner.owner_screen()), frame_(owner.owner_frame()), name_(std::move(name)), kind_(kind) {
+  screen_.Register(*this);
+}
+
+void Control::Changed(Aspect aspect) { screen_.ControlChanged(*this, aspect); }
+
+void Control::RaiseForPerson(const std::function<void()>& event) {
+  if (!visible_to_person() || !enabled_for_person()) return;
+  screen_.platform().gate.Enter(event);
+}
+
+void Control::Show(bool visible) {
+  if (std::exchange(visible_, visible) != visible) Changed(Aspect::kVisible);
+}
+
+void Control::Enable(bool enabled) {
+  if (std::exchange(enabled_, enabled) != enabled) Changed(Aspect::kEnabled);
+}
+
+bool Control::visible_to_person() const { return visible_ && (frame_ == nullptr || frame_->visible_to_person()); }
+
+bool Control::enabled_for_person() const { return enabled_ && (frame_ == nullptr || frame_->enabled_for_person()); }
+
+void Control::SetForeColor(std::optional<Color> color) {
+  if (std::exchange(fore_color_, color) != color) Changed(Aspect::kColors);
+}
+
+void Control::SetBackColor(std::optional<Color> color) {
+  if (std::exchange(back_color_, color) != color) Changed(Aspect::kColors);
+}
+
+void Control::SetHint(std::string hint) {
+  hint_ = std::move(hint);
+  Changed(Aspect::kHint);
+}
+
+void Control::SetFocus() { Changed(Aspect::kFocus); }
+
+CaptionedControl::CaptionedControl(ControlOwner& owner, std::string name, ControlKind kind, std::string caption)
+    : Control(owner, std::move(name), kind), caption_(std::move(caption)) {}
+
+void CaptionedControl::SetCaption(std::string caption) {
+  if (caption == caption_) return;
+  caption_ = std::move(caption);
+  Changed(Aspect::kText);
+}
+
+void Button::Click() {
+  RaiseForPerson([this] {
+    if (on_click) on_click();
+  });
+}
+
+void Frame::Click() {
+  RaiseForPerson([this] {
+    if (on_click) on_click();
+  });
+}
+
+void TextBox::SetText(std::string text) {
+  if (text == text_) return;
+  text_ = std::move(text);
+  Changed(Aspect::kText);
+}
+
+void TextBox::TypeKey(char key) {
+  RaiseForPerson([this, key] {
+    if (read_only()) return;
+    char typed = key;
+    if (on_key_press) on_key_press(typed);
+    if (typed == 0) return;
+    if (max_length_ > 0 && static_cast<int>(text_.size()) >= max_length_) return;
+    SetText(text_ + typed);
+    if (on_change) on_change();
+  });
+}
+
+void TextBox::Edit(std::string text) {
+  RaiseForPerson([this, &text] {
+    if (read_only() || text == text_) return;
+    if (max_length_ > 0) text.resize(std::min(text.size(), static_cast<std::size_t>(max_length_)));
+    SetText(std::move(text));
+    if (on_change) on_change();
+  });
+}
+
+void TextBox::LeaveFocus() {
+  RaiseForPerson([this] {
+    if (on_lost_focus) on_lost_focus();
+  });
+}
+
+void ListBox::AddRow(std::string row) {
+  if (order_ == Order::kAsAdded) {
+    rows_.push_back(std::move(row));
+  } else {
+    const auto before = [](const std::string& a, const std::string& b) { return LessIgnoringCase(a, b); };
+    rows_.insert(std::upper_bound(rows_.begin(), rows_.end(), row, before), std::move(row));
+  }
+  Changed(Aspect::kRows);
+}
+
+void ListBox::SetRow(int index, std::string row) {
+  rows_.at(static_cast<std::size_t>(index)) = std::move(row);
+  Changed(Aspect::kRows);
+}
+
+void ListBox::RemoveRow(int index) {
+  rows_.erase(rows_.begin() + index);
+  std::erase(selected_, index);
+  for (int& selected : selected_) selected -= selected > index ? 1 : 0;
+  Changed(Aspect::kRows);
+}
+
+void ListBox::Clear() {
+  if (rows_.empty()) return;
+  rows_.clear();
+  selected_.clear();
+  Changed(Aspect::kRows);
+}
+
+std::string ListBox::selected_text() const { return selected_.empty() ? std::string() : row(selected_.front()); }
+
+void ListBox::Select(int index) {
+  std::vector<int> wanted;
+  if (index >= 0 && index < row_count()) wanted.push_back(index);
+  if (std::exchange(selected_, wanted) != wanted) Changed(Aspect::kSelection);
+}
+
+void ListBox::PersonSelects(std::vector<int> rows) {
+  RaiseForPerson([this, &rows] {
+    std::erase_if(rows, [this](int index) { return index < 0 || index >= row_count(); });
+    if (!several_ && rows.size() > 1) rows.resize(1);
+    selected_ = std::move(rows);
+    Changed(Aspect::kSelection);
+    if (on_click) on_click();
+  });
+}
+
+void ListBox::DoubleClick() {
+  RaiseForPerson([this] {
+    if (on_double_click) on_double_click();
+  });
+}
+
+void ListBox::PressEnter() {
+  RaiseForPerson([this] {
+    if (on_enter) on_enter();
+  });
+}
+
+void FileListBox::SetPath(std::string path) {
+  path_ = std::move(path);
+  Refresh();
+}
+
+void FileListBox::SetPattern(std::string pattern) {
+  pattern_ = std::move(pattern);
+  Refresh();
+}
+
+void FileListBox::Refresh() {
+  Clear();
+  if (path_.empty()) return;
+  for (std::string& name : screen().platform().files.List(path_, pattern_).value_or({})) AddRow(std::move(name));
+}
+
+void CheckBox::Tick(bool ticked) {
+  if (std::exchange(ticked_, ticked) != ticked) Changed(Aspect::kTicked);
+}
+
+void CheckBox::PersonTicks(bool ticked) {
+  RaiseForPerson([this, ticked] {
+    if (ticked_ == ticked) return;
+    Tick(ticked);
+    if (on_click) on_click();
+  });
+}
+
+void OptionButton::Select(bool selected) {
+  if (std::exchange(selected_, selected) == selected) return;
+  Changed(Aspect::kTicked);
+  if (!selected) return;
+  for (Control* other : screen().controls()) {
+    if (other == this || other->kind() != ControlKind::kOptionButton || other->frame() != frame()) continue;
+    static_cast<OptionButton*>(other)->Select(false);
+  }
+}
+
+void OptionButton::PersonSelects() {
+  RaiseForPerson([this] {
+    Select();
+    if (on_click) on_click();
+  });
+}
+
+Timer::Timer(ControlOwner& owner, std::string name)
+    : Control(owner, std::move(name), ControlKind::kTimer),
+      shots_(screen().platform().timers.MakeTimer([this] { Tick(); })) {}
+
+void Timer::SetInterval(std::chrono::milliseconds interval) {
+  if (std::exchange(interval_, interval) != interval) {
+    running_ = false;
+    Apply();
+  }
+}
+
+void Timer::SetEnabled(bool enabled) {
+  Enable(enabled);
+  Apply();
+}
+
+void Timer::Apply() {
+  const bool wanted = enabled() && interval_.count() > 0;
+  if (std::exchange(running_, wanted) == wanted) return;
+  if (wanted) {
+    shots_->Start(interval_);
+  } else {
+    shots_->Stop();
+  }
+}
+
+void Timer::Tick() {
+  if (in_tick_ || !on_tick) return;  // a tick that waits in a box is not entered a second time
+  in_tick_ = true;
+  screen().platform().gate.Enter(on_tick);
+  in_tick_ = false;
+}
+
+MediaControl::MediaControl(ControlOwner& owner, std::string name, int number)
+    : Control(owner, std::move(name), ControlKind::kMedia),
+      player_(screen().platform().media.MakePlayer(number)) {}
+
+void MediaControl::Command(std::string_view command) {
+  command_ = command;
+  if (EqualsIgnoringCase(command, "Open")) {
+    player_->Open(file_name_, screen().platform().files.HostPath(file_name_));
+  } else if (EqualsIgnoringCase(command, "Play")) {
+    player_->Play();
+  } else if (EqualsIgnoringCase(command, "Pause")) {
+    player_->Pause();
+  } else if (EqualsIgnoringCase(command, "Prev")) {
+    player_->Rewind();
+  } else if (EqualsIgnoringCase(command, "Close")) {
+    player_->Close();
+  }
+  Changed(Aspect::kTransport);
+}
+
+void MediaControl::ClickPlay() {
+  RaiseForPerson([this] {
+    if (on_play_click) on_play_click();
+  });
+}
+
+void MediaControl::ClickPause() {
+  RaiseForPerson([this] {
+    if (on_pause_click) on_pause_click();
+  });
+}
+
+MenuItem::MenuItem(ControlOwner& owner, std::string name, std::string caption)
+    : CaptionedControl(owner, std::move(name), ControlKind::kMenu, std::move(caption)) {}
+
+MenuItem::MenuItem(MenuItem& parent, std::string name, std::string caption)
+    : CaptionedControl(parent.screen(), std::move(name), ControlKind::kMenu, std::move(caption)), parent_(&parent) {
+  parent.items_.push_back(this);
+}
+
+void MenuItem::Choose() {
+  RaiseForPerson([this] {
+    if (on_click) on_click();
+  });
+}
+
+}  // namespace quixair

@@ -1,0 +1,36 @@
+#pragma once
+
+// Boxes that the operator answers. The calls return with the answer; timers go on while a box is open, so that playback
+// never waits for one.
+
+#include <string>
+#include <string_view>
+
+namespace quixair {
+
+enum class Answer { kOk, kCancel, kYes, kNo };
+
+/// What a box offers and shows, added up as in the station's documents: 65 is kOkCancel + kInformation.
+namespace box_style {
+inline constexpr int kOk = 0;
+inline constexpr int kOkCancel = 1;
+inline constexpr int kYesNoCancel = 3;
+inline constexpr int kYesNo = 4;
+inline constexpr int kButtonMask = 7;
+inline constexpr int kCritical = 16;
+inline constexpr int kQuestion = 32;
+inline constexpr int kExclamation = 48;
+inline constexpr int kInformation = 64;
+inline constexpr int kIconMask = 112;
+}  // namespace box_style
+
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  /// Lines of `text` are divided by line feeds.
+  virtual Answer MessageBox(std::string_view text, int style, std::string_view title) = 0;
+  /// The text that was typed; empty when the operator cancelled.
+  virtual std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) = 0;
+};
+
+}  // namespace quixair

@@ -1,0 +1,30 @@
+#pragma once
+
+// Everything that a screen may reach of the world outside the station, as references to what main() made. It is handed to
+// each screen's constructor; nothing here is looked up by name and nothing is global.
+
+namespace quixair {
+
+class Clock;
+class Dialogs;
+class EventGate;
+class Files;
+class Media;
+class Programs;
+class RandomSource;
+class Screens;
+class TimerService;
+
+struct Platform {
+  Clock& clock;
+  TimerService& timers;
+  Files& files;
+  Media& media;
+  Dialogs& dialogs;
+  Programs& programs;
+  RandomSource& random;
+  Screens& screens;
+  EventGate& gate;
+};
+
+}  // namespace quixair

@@ -1,0 +1,82 @@
+#pragma once
+
+// A screen: a window of the program as a plain class whose members are controls. It owns what it loads for as long as it
+// is open; nothing outlives it but what it wrote. Both front ends reach its controls by name.
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "station/platform/controls.h"
+#include "station/platform/platform.h"
+#include "station/platform/screens.h"
+
+namespace quixair {
+
+/// How a front end follows a screen. All calls come on the user interface thread.
+class ScreenObserver {
+ public:
+  virtual void ControlChanged(Control& control, Aspect aspect) = 0;
+  virtual void TitleChanged(Screen& screen) = 0;
+  virtual void VisibilityChanged(Screen& screen) = 0;
+  /// Paint now what has changed: the screen is in the middle of a long step. No act of a person may come in meanwhile.
+  virtual void Repaint(Screen& screen) = 0;
+
+ protected:
+  ~ScreenObserver() = default;
+};
+
+class Screen : public ControlOwner {
+ public:
+  Screen(const Platform& platform, std::string name, std::string title);
+  Screen(const Screen&) = delete;
+  Screen& operator=(const Screen&) = delete;
+  virtual ~Screen() = default;
+
+  /// What the caller sets before Load; the default takes the title.
+  virtual void Prepare(const ScreenOpening& opening);
+  /// Runs once, when the screen is made and shown.
+  virtual void Load() {}
+  /// A person closed the window by its frame; the default unloads.
+  virtual void CloseWindow();
+
+  const std::string& name() const { return name_; }
+  const std::string& title() const { return title_; }
+  void SetTitle(std::string title);
+  bool visible() const { return visible_; }
+  void Show(bool visible = true);
+  void Hide() { Show(false); }
+
+  const std::vector<Control*>& controls() const { return controls_; }
+  /// By name, without regard to case; none when there is no such control.
+  Control* FindControl(std::string_view name) const;
+  Control* focused() const { return focused_; }
+
+  /// Lets a long step show its progress.
+  void Repaint();
+  void set_observer(ScreenObserver* observer) { observer_ = observer; }
+  const Platform& platform() const { return platform_; }
+
+  Screen& owner_screen() override { return *this; }
+  Frame* owner_frame() override { return nullptr; }
+
+ protected:
+  /// Takes this screen away at the end of the running event.
+  void Unload();
+
+  const Platform& platform_;
+
+ private:
+  friend class Control;
+  void Register(Control& control) { controls_.push_back(&control); }
+  void ControlChanged(Control& control, Aspect aspect);
+
+  std::string name_;
+  std::string title_;
+  bool visible_ = true;
+  std::vector<Control*> controls_;
+  Control* focused_ = nullptr;
+  ScreenObserver* observer_ = nullptr;
+};
+
+}  // namespace quixair

@@ -1,0 +1,68 @@
+#include "station/platform/screen_registry.h"
+
+#include <algorithm>
+
+#include "station/platform/event_gate.h"
+
+namespace quixair {
+
+ScreenRegistry::~ScreenRegistry() { CloseAll(); }
+
+void ScreenRegistry::Open(std::string_view name, const ScreenOpening& opening) {
+  if (Screen* screen = Find(name)) {
+    screen->Show();
+    if (observer_ != nullptr) observer_->ScreenActivated(*screen);
+    return;
+  }
+  auto entry = catalogue_.find(name);
+  const bool built = entry != catalogue_.end();
+  if (!built) entry = catalogue_.find("NotBuilt");
+  std::unique_ptr<Screen> made = entry->second(*platform_);
+  Screen& screen = *made;
+  if (built) {
+    screen.Prepare(opening);
+  } else {
+    screen.Prepare({.title = std::string(name), .patterns = {}, .day_files = {}, .captions = {}});
+  }
+  open_.push_back(std::move(made));
+  if (observer_ != nullptr) observer_->ScreenOpened(screen);
+  screen.Load();
+}
+
+void ScreenRegistry::Unload(Screen& screen) {
+  const auto found = std::find_if(open_.begin(), open_.end(), [&](const auto& held) { return held.get() == &screen; });
+  if (found == open_.end()) return;
+  screen.Hide();
+  for (Control* control : screen.controls()) {
+    if (control->kind() == ControlKind::kTimer) static_cast<Timer*>(control)->SetEnabled(false);
+  }
+  unloaded_.push_back(std::move(*found));
+  open_.erase(found);
+  if (observer_ != nullptr) observer_->ScreenClosed(screen);
+  screen.set_observer(nullptr);
+  platform_->gate.WhenIdle([this] { unloaded_.clear(); });
+}
+
+Screen* ScreenRegistry::Find(std::string_view name) {
+  for (const auto& screen : open_) {
+    if (EqualsIgnoringCase(screen->name(), name)) return screen.get();
+  }
+  return nullptr;
+}
+
+std::vector<Screen*> ScreenRegistry::OpenScreens() const {
+  std::vector<Screen*> screens;
+  for (const auto& screen : open_) screens.push_back(screen.get());
+  return screens;
+}
+
+void ScreenRegistry::CloseAll() {
+  while (!open_.empty()) {
+    if (observer_ != nullptr) observer_->ScreenClosed(*open_.back());
+    open_.back()->set_observer(nullptr);
+    open_.pop_back();
+  }
+  unloaded_.clear();
+}
+
+}  // namespace quixair
