@@ -1,0 +1,62 @@
+#pragma once
+
+// Files on the host's file system. The old PC did not tell upper from lower case: a path is tried by its exact name first,
+// and failing that by an index of the folder (upper-cased name to real name). The index is kept in memory for as long as
+// the folder's modification time stands, is kept up by our own writes, and is listed again once when it led astray, since
+// listing a folder of 10,000 for each miss would take minutes over a whole library.
+
+#include <chrono>
+#include <map>
+#include <string>
+#include <unordered_map>
+
+#include "station/platform/drives.h"
+#include "station/platform/files.h"
+
+namespace quixair {
+
+class DiskFiles : public Files {
+ public:
+  /// What a flushed write does: a rehearsal on a copy has no need to wait for the disk.
+  enum class Flushing { kToDisk, kNone };
+  explicit DiskFiles(Drives drives, Flushing flushing = Flushing::kToDisk)
+      : drives_(std::move(drives)), flushing_(flushing) {}
+
+  Result<std::string> Read(std::string_view path) override;
+  Status Write(std::string_view path, std::string_view bytes, Durability durability) override;
+  Status Append(std::string_view path, std::string_view bytes, Durability durability) override;
+  Status Delete(std::string_view path) override;
+  Status Copy(std::string_view from, std::string_view to) override;
+  Status MakeFolder(std::string_view path) override;
+  bool Exists(std::string_view path) override;
+  Result<std::vector<std::string>> List(std::string_view folder, std::string_view pattern) override;
+  std::optional<std::filesystem::path> HostPath(std::string_view path) override;
+
+  const Drives& drives() const { return drives_; }
+
+ private:
+  struct FolderIndex {
+    std::filesystem::file_time_type modified;
+    std::unordered_map<std::string, std::string> real_names;  // by upper-cased name
+  };
+  struct Place {
+    std::string folder;  // on the host
+    std::string name;    // as asked for, in the host's encoding
+    std::string exact() const { return folder + '/' + name; }
+  };
+
+  Result<Place> Locate(std::string_view path);
+  Result<std::string> HostFolder(std::string_view drive_and_folders);
+  Result<std::string> Existing(const Place& place);
+  std::optional<std::string> RealName(const std::string& folder, const std::string& name);
+  const FolderIndex* Index(const std::string& folder);
+  void Remember(const std::string& folder, const std::string& name, bool folder_was_current);
+  Status Put(std::string_view path, std::string_view bytes, int open_flags, Durability durability);
+
+  Drives drives_;
+  Flushing flushing_;
+  std::map<std::string, std::string, std::less<>> folders_;  // station's folder to host's
+  std::unordered_map<std::string, FolderIndex> indexes_;
+};
+
+}  // namespace quixair

@@ -1,0 +1,11 @@
+#pragma once
+
+// The list of the station's screens by name: the one place to add a new one.
+
+#include "station/platform/screen_registry.h"
+
+namespace quixair {
+
+ScreenRegistry::Catalogue StationScreens();
+
+}  // namespace quixair
