@@ -1,9 +1,10 @@
 #pragma once
 
-// The console, the one main window: a menu tree and the start-up that decides between waiting for the operator, preparing
-// a new machine, and taking a broken-off run up again. It owns no station logic: it opens screens by name, after writing
-// what a screen expects to be handed, and starts outside programs.
+// The console, the one main window: a menu tree and the start-up that decides between waiting for the
+// operator, preparing a new machine, and taking a broken-off run up again. It owns no station logic: it opens
+// screens by name, after writing what a screen expects to be handed, and starts outside programs.
 
+#include "station/platform/run_time_error.h"
 #include "station/platform/screen.h"
 
 namespace quixair {
@@ -60,7 +61,8 @@ class Console : public Screen {
   MenuItem SatRemoveSpots{WorkWithSatTemplates, "SatRemoveSpots", "Remove &Spots from Template"};
   MenuItem EraseSatCustom{WorkWithSatTemplates, "EraseSatCustom", "E&rase Custom Template"};
   MenuItem DosSatelliteControls{SatellitePlayback, "DosSatelliteControls", "&DOS Satellite Controls"};
-  MenuItem SatelliteControlOptions{DosSatelliteControls, "SatelliteControlOptions", "&Satellite Options Menu (DOS)"};
+  MenuItem SatelliteControlOptions{DosSatelliteControls, "SatelliteControlOptions",
+                                   "&Satellite Options Menu (DOS)"};
   MenuItem Announcer{DosSatelliteControls, "Announcer", "&Adjust Announcer Schedule (DOS)"};
   MenuItem NetworkSwitch{DosSatelliteControls, "NetworkSwitch", "&Network Switching (DOS)"};
 
@@ -97,6 +99,9 @@ class Console : public Screen {
 
   void OpenOnClick(MenuItem& item, const char* screen, ScreenOpening opening = {});
   void EditOnClick(MenuItem& item, const char* pik_mode, const char* screen, ScreenOpening opening = {});
+  /// A hand-over file that could not be written is told in a box, and its screen stays closed: the air goes
+  /// on.
+  bool HandedOver(const Status& written);
   void RunSibling(const char* path);
   void ResumeInterruptedRun();
   void PrepareOrShowSplash();

@@ -1,7 +1,7 @@
 #pragma once
 
-// The three screens that prepare a new machine, each opening the next: the recorder's components, the station's folders,
-// the folders for audio on further drives.
+// The three screens that prepare a new machine, each opening the next: the recorder's components, the
+// station's folders, the folders for audio on further drives.
 
 #include <array>
 
@@ -13,8 +13,9 @@ class MMregOCX : public Screen {
  public:
   explicit MMregOCX(const Platform& platform);
 
-  Label Label1{*this, "Label1",
-               "Your system will now be configured to allow certain recording and playback features to function..."};
+  Label Label1{
+      *this, "Label1",
+      "Your system will now be configured to allow certain recording and playback features to function..."};
   Button Command1{*this, "Command1", "&OK"};
 
  private:

@@ -1,7 +1,7 @@
 #pragma once
 
-// The frame in which an operator sets the time of day at which a run starts by itself. Both playback screens have one;
-// they differ in what they show when no time is set.
+// The frame in which an operator sets the time of day at which a run starts by itself. Both playback screens
+// have one; they differ in what they show when no time is set.
 
 #include <functional>
 #include <string>
@@ -12,17 +12,18 @@ namespace quixair {
 
 class StartTimeFrame {
  public:
-  /// `owner` is the playback screen; `shown` the label on it that tells the time set, `when_cancelled` its text for none.
+  /// `owner` is the playback screen; `shown` the label on it that tells the time set, `when_cancelled` its
+  /// text for none.
   StartTimeFrame(Screen& owner, Label& shown, Timer& start_timer, std::string when_cancelled);
 
   Frame TimeFrame2;
-  Label TimeLabel5;       // what to do
-  ListBox TimeList1;      // hours "01" to "12"
-  ListBox TimeList2;      // minutes "00" to "59"
-  ListBox TimeList3;      // "AM", "PM"
-  Label TimeLabel6;       // "Selected = " and the time
-  Button TimeCommand1;    // "&Done"
-  Button TimeCommand2;    // "&Cancel"
+  Label TimeLabel5;     // what to do
+  ListBox TimeList1;    // hours "01" to "12"
+  ListBox TimeList2;    // minutes "00" to "59"
+  ListBox TimeList3;    // "AM", "PM"
+  Label TimeLabel6;     // "Selected = " and the time
+  Button TimeCommand1;  // "&Done"
+  Button TimeCommand2;  // "&Cancel"
 
   /// Shows the frame with its lists filled; does nothing when it is open.
   void OpenFrame();

@@ -9,8 +9,12 @@ namespace {
 
 constexpr std::array<const char*, 7> kDayNames = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
 
-int TwelveHour(int hour) { return hour % 12 == 0 ? 12 : hour % 12; }
-const char* HalfOfDay(int hour) { return hour < 12 ? "AM" : "PM"; }
+int TwelveHour(int hour) {
+  return hour % 12 == 0 ? 12 : hour % 12;
+}
+const char* HalfOfDay(int hour) {
+  return hour < 12 ? "AM" : "PM";
+}
 
 template <class... Values>
 std::string Formatted(const char* pattern, Values... values) {
@@ -45,18 +49,22 @@ std::string HourMinuteAmPm(const CivilTime& time) {
   return Formatted("%02d:%02d %s", TwelveHour(time.hour), time.minute, HalfOfDay(time.hour));
 }
 
-std::string HourMinute24(const CivilTime& time) { return Formatted("%02d:%02d", time.hour, time.minute); }
+std::string HourMinute24(const CivilTime& time) {
+  return Formatted("%02d:%02d", time.hour, time.minute);
+}
 
 std::string FourDigitHourMinute(const CivilTime& time) {
   return Formatted("%02d%02d", TwelveHour(time.hour), time.minute);
 }
 
 std::string HourMinuteSecondLetter(const CivilTime& time) {
-  return Formatted("%d:%02d:%02d %c", TwelveHour(time.hour), time.minute, time.second, time.hour < 12 ? 'a' : 'p');
+  return Formatted("%d:%02d:%02d %c", TwelveHour(time.hour), time.minute, time.second,
+                   time.hour < 12 ? 'a' : 'p');
 }
 
 std::string HourMinuteSecondAmPm(const CivilTime& time) {
-  return Formatted("%02d:%02d:%02d %s", TwelveHour(time.hour), time.minute, time.second, HalfOfDay(time.hour));
+  return Formatted("%02d:%02d:%02d %s", TwelveHour(time.hour), time.minute, time.second,
+                   HalfOfDay(time.hour));
 }
 
 std::string HourMinuteSecond24(const CivilTime& time) {
@@ -71,9 +79,13 @@ std::string MonthDayLongYear(const CivilTime& time) {
   return Formatted("%02d-%02d-%04d", time.month, time.day, time.year);
 }
 
-std::string ShortDate(const CivilTime& time) { return Formatted("%d/%d/%04d", time.month, time.day, time.year); }
+std::string ShortDate(const CivilTime& time) {
+  return Formatted("%d/%d/%04d", time.month, time.day, time.year);
+}
 
-std::string DayName(const CivilTime& time) { return kDayNames.at(static_cast<std::size_t>(time.weekday)); }
+std::string DayName(const CivilTime& time) {
+  return kDayNames.at(static_cast<std::size_t>(time.weekday));
+}
 
 double SecondsSinceMidnight(const CivilTime& time) {
   return time.hour * 3600 + time.minute * 60 + time.second + time.millisecond / 10 / 100.0;

@@ -1,7 +1,7 @@
 #pragma once
 
-// The time and date texts of the station's screens, files and logs, each by its pattern, and the calendar that compares
-// the dates of spots.
+// The time and date texts of the station's screens, files and logs, each by its pattern, and the calendar
+// that compares the dates of spots.
 
 #include <cstdint>
 #include <optional>
@@ -12,21 +12,21 @@
 
 namespace quixair {
 
-std::string HourMinuteAmPm(const CivilTime& time);        // "hh:mm AM/PM": 01:07 PM, midnight 12:00 AM
-std::string HourMinute24(const CivilTime& time);          // "hh:mm": midnight 00:00
-std::string FourDigitHourMinute(const CivilTime& time);   // first four of "hhmm AM/PM": 0107 for 13:07
+std::string HourMinuteAmPm(const CivilTime& time);          // "hh:mm AM/PM": 01:07 PM, midnight 12:00 AM
+std::string HourMinute24(const CivilTime& time);            // "hh:mm": midnight 00:00
+std::string FourDigitHourMinute(const CivilTime& time);     // first four of "hhmm AM/PM": 0107 for 13:07
 std::string HourMinuteSecondLetter(const CivilTime& time);  // "h:mm:ss a/p": 1:07:33 p
-std::string HourMinuteSecondAmPm(const CivilTime& time);  // "HH:MM:SS AM/PM": 01:07:33 PM
-std::string HourMinuteSecond24(const CivilTime& time);    // "HH:MM:SS": 13:07:33
-std::string MonthDayYear(const CivilTime& time);          // "mm-dd-yy": 03-07-01
-std::string MonthDayLongYear(const CivilTime& time);      // "MM-DD-YYYY": 03-07-2001
-std::string ShortDate(const CivilTime& time);             // "ddddd", the system's short date: 3/7/2001
-std::string DayName(const CivilTime& time);               // "ddd": Mon
+std::string HourMinuteSecondAmPm(const CivilTime& time);    // "HH:MM:SS AM/PM": 01:07:33 PM
+std::string HourMinuteSecond24(const CivilTime& time);      // "HH:MM:SS": 13:07:33
+std::string MonthDayYear(const CivilTime& time);            // "mm-dd-yy": 03-07-01
+std::string MonthDayLongYear(const CivilTime& time);        // "MM-DD-YYYY": 03-07-2001
+std::string ShortDate(const CivilTime& time);               // "ddddd", the system's short date: 3/7/2001
+std::string DayName(const CivilTime& time);                 // "ddd": Mon
 
 double SecondsSinceMidnight(const CivilTime& time);
 
-/// A date text "mm-dd-yy" as days of the calendar. Two-digit years 00 to 29 are of this century's first, 30 to 99 of the
-/// last one's. None when it is no date.
+/// A date text "mm-dd-yy" as days of the calendar. Two-digit years 00 to 29 are of this century's first, 30
+/// to 99 of the last one's. None when it is no date.
 std::optional<std::int64_t> CalendarDay(std::string_view month_day_year);
 
 /// Fields of a moment given as milliseconds of civil time since 1970, and back.

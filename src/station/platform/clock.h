@@ -1,8 +1,8 @@
 #pragma once
 
-// The two times of the station. Civil local time is for schedules, logs and everything an operator reads; it jumps when
-// somebody sets the PC's clock or the season changes. Steady time is for durations; it never jumps. They have different
-// types so that the one is never subtracted from the other.
+// The two times of the station. Civil local time is for schedules, logs and everything an operator reads; it
+// jumps when somebody sets the PC's clock or the season changes. Steady time is for durations; it never
+// jumps. They have different types so that the one is never subtracted from the other.
 
 #include <chrono>
 
@@ -10,13 +10,13 @@ namespace quixair {
 
 struct CivilTime {
   int year = 2000;
-  int month = 1;         // 1 to 12
-  int day = 1;           // 1 to 31
-  int hour = 0;          // 0 to 23
+  int month = 1;  // 1 to 12
+  int day = 1;    // 1 to 31
+  int hour = 0;   // 0 to 23
   int minute = 0;
   int second = 0;
   int millisecond = 0;
-  int weekday = 6;       // 0 Sunday to 6 Saturday
+  int weekday = 6;  // 0 Sunday to 6 Saturday
 
   bool operator==(const CivilTime&) const = default;
 };

@@ -12,17 +12,28 @@ namespace quixair {
 
 std::string_view NameOf(ControlKind kind) {
   switch (kind) {
-    case ControlKind::kLabel: return "Label";
-    case ControlKind::kTextBox: return "TextBox";
-    case ControlKind::kListBox: return "ListBox";
-    case ControlKind::kCheckBox: return "CheckBox";
-    case ControlKind::kOptionButton: return "OptionButton";
-    case ControlKind::kButton: return "Button";
-    case ControlKind::kFrame: return "Frame";
-    case ControlKind::kFileListBox: return "FileListBox";
-    case ControlKind::kTimer: return "Timer";
-    case ControlKind::kMedia: return "MediaControl";
-    case ControlKind::kMenu: return "Menu";
+    case ControlKind::kLabel:
+      return "Label";
+    case ControlKind::kTextBox:
+      return "TextBox";
+    case ControlKind::kListBox:
+      return "ListBox";
+    case ControlKind::kCheckBox:
+      return "CheckBox";
+    case ControlKind::kOptionButton:
+      return "OptionButton";
+    case ControlKind::kButton:
+      return "Button";
+    case ControlKind::kFrame:
+      return "Frame";
+    case ControlKind::kFileListBox:
+      return "FileListBox";
+    case ControlKind::kTimer:
+      return "Timer";
+    case ControlKind::kMedia:
+      return "MediaControl";
+    case ControlKind::kMenu:
+      return "Menu";
   }
   return "Control";
 }
@@ -32,7 +43,9 @@ Control::Control(ControlOwner& owner, std::string name, ControlKind kind)
   screen_.Register(*this);
 }
 
-void Control::Changed(Aspect aspect) { screen_.ControlChanged(*this, aspect); }
+void Control::Changed(Aspect aspect) {
+  screen_.ControlChanged(*this, aspect);
+}
 
 void Control::RaiseForPerson(const std::function<void()>& event) {
   if (!visible_to_person() || !enabled_for_person()) return;
@@ -47,9 +60,13 @@ void Control::Enable(bool enabled) {
   if (std::exchange(enabled_, enabled) != enabled) Changed(Aspect::kEnabled);
 }
 
-bool Control::visible_to_person() const { return visible_ && (frame_ == nullptr || frame_->visible_to_person()); }
+bool Control::visible_to_person() const {
+  return visible_ && (frame_ == nullptr || frame_->visible_to_person());
+}
 
-bool Control::enabled_for_person() const { return enabled_ && (frame_ == nullptr || frame_->enabled_for_person()); }
+bool Control::enabled_for_person() const {
+  return enabled_ && (frame_ == nullptr || frame_->enabled_for_person());
+}
 
 void Control::SetForeColor(std::optional<Color> color) {
   if (std::exchange(fore_color_, color) != color) Changed(Aspect::kColors);
@@ -64,9 +81,12 @@ void Control::SetHint(std::string hint) {
   Changed(Aspect::kHint);
 }
 
-void Control::SetFocus() { Changed(Aspect::kFocus); }
+void Control::SetFocus() {
+  Changed(Aspect::kFocus);
+}
 
-CaptionedControl::CaptionedControl(ControlOwner& owner, std::string name, ControlKind kind, std::string caption)
+CaptionedControl::CaptionedControl(ControlOwner& owner, std::string name, ControlKind kind,
+                                   std::string caption)
     : Control(owner, std::move(name), kind), caption_(std::move(caption)) {}
 
 void CaptionedControl::SetCaption(std::string caption) {
@@ -149,7 +169,9 @@ void ListBox::Clear() {
   Changed(Aspect::kRows);
 }
 
-std::string ListBox::selected_text() const { return selected_.empty() ? std::string() : row(selected_.front()); }
+std::string ListBox::selected_text() const {
+  return selected_.empty() ? std::string() : row(selected_.front());
+}
 
 void ListBox::Select(int index) {
   std::vector<int> wanted;
@@ -192,7 +214,8 @@ void FileListBox::SetPattern(std::string pattern) {
 void FileListBox::Refresh() {
   Clear();
   if (path_.empty()) return;
-  for (std::string& name : screen().platform().files.List(path_, pattern_).value_or({})) AddRow(std::move(name));
+  for (std::string& name : screen().platform().files.List(path_, pattern_).value_or({}))
+    AddRow(std::move(name));
 }
 
 void CheckBox::Tick(bool ticked) {
@@ -293,7 +316,8 @@ MenuItem::MenuItem(ControlOwner& owner, std::string name, std::string caption)
     : CaptionedControl(owner, std::move(name), ControlKind::kMenu, std::move(caption)) {}
 
 MenuItem::MenuItem(MenuItem& parent, std::string name, std::string caption)
-    : CaptionedControl(parent.screen(), std::move(name), ControlKind::kMenu, std::move(caption)), parent_(&parent) {
+    : CaptionedControl(parent.screen(), std::move(name), ControlKind::kMenu, std::move(caption)),
+      parent_(&parent) {
   parent.items_.push_back(this);
 }
 

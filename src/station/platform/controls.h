@@ -1,17 +1,18 @@
 #pragma once
 
-// The named controls that screens are made of: small holders of what a person sees and does, without a toolkit, geometry
-// or painting. A front end shows them and is told of each change through the screen's observer; a person's act comes in
-// through the functions of the section "acts of a person", which do nothing on a control that is hidden or disabled, and
-// which raise the control's event through the EventGate. The station itself sets values freely; that raises no event.
+// The named controls that screens are made of: small holders of what a person sees and does, without a
+// toolkit, geometry or painting. A front end shows them and is told of each change through the screen's
+// observer; a person's act comes in through the functions of the section "acts of a person", which do nothing
+// on a control that is hidden or disabled, and which raise the control's event through the EventGate. The
+// station itself sets values freely; that raises no event.
 //
 //   class ErrorLog : public Screen {
 //     Button Command1{*this, "Command1", "&View Error Log"};
 //     ...
 //     Command1.on_click = [this] { View(); };
 //
-// Texts are bytes of the station's code page. A control registers its name with its screen; its owner is the screen or the
-// frame it lies in. Everything here belongs to the user interface thread.
+// Texts are bytes of the station's code page. A control registers its name with its screen; its owner is the
+// screen or the frame it lies in. Everything here belongs to the user interface thread.
 
 #include <chrono>
 #include <cstdint>
@@ -32,7 +33,17 @@ class Frame;
 class Screen;
 
 enum class ControlKind {
-  kLabel, kTextBox, kListBox, kCheckBox, kOptionButton, kButton, kFrame, kFileListBox, kTimer, kMedia, kMenu
+  kLabel,
+  kTextBox,
+  kListBox,
+  kCheckBox,
+  kOptionButton,
+  kButton,
+  kFrame,
+  kFileListBox,
+  kTimer,
+  kMedia,
+  kMenu
 };
 std::string_view NameOf(ControlKind kind);
 
@@ -46,7 +57,18 @@ inline constexpr Color kWhite{0xFFFFFF};      // palette colour 15
 inline constexpr Color kPaleGreen{0xC0FFC0};  // plain value 12648384
 
 /// What of a control changed.
-enum class Aspect { kText, kVisible, kEnabled, kColors, kRows, kSelection, kTicked, kFocus, kHint, kTransport };
+enum class Aspect {
+  kText,
+  kVisible,
+  kEnabled,
+  kColors,
+  kRows,
+  kSelection,
+  kTicked,
+  kFocus,
+  kHint,
+  kTransport
+};
 
 /// What controls can lie in: a screen or one of its frames.
 class ControlOwner {

@@ -1,10 +1,12 @@
 #pragma once
 
-// Boxes that the operator answers. The calls return with the answer; timers go on while a box is open, so that playback
-// never waits for one.
+// Boxes that the operator answers. The calls return with the answer; timers go on while a box is open, so
+// that playback never waits for one.
 
 #include <string>
 #include <string_view>
+
+#include "station/platform/run_time_error.h"
 
 namespace quixair {
 
@@ -32,5 +34,8 @@ class Dialogs {
   /// The text that was typed; empty when the operator cancelled.
   virtual std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) = 0;
 };
+
+/// A plain box that tells what did not happen, and the run-time error behind it in words and by its number.
+void TellFileFault(Dialogs& dialogs, const Status& fault, std::string_view consequence);
 
 }  // namespace quixair

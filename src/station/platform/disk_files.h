@@ -1,9 +1,10 @@
 #pragma once
 
-// Files on the host's file system. The old PC did not tell upper from lower case: a path is tried by its exact name first,
-// and failing that by an index of the folder (upper-cased name to real name). The index is kept in memory for as long as
-// the folder's modification time stands, is kept up by our own writes, and is listed again once when it led astray, since
-// listing a folder of 10,000 for each miss would take minutes over a whole library.
+// Files on the host's file system. The old PC did not tell upper from lower case: a path is tried by its
+// exact name first, and failing that by an index of the folder (upper-cased name to real name). The index is
+// kept in memory for as long as the folder's modification time stands, is kept up by our own writes, and is
+// listed again once when it led astray, since listing a folder of 10,000 for each miss would take minutes
+// over a whole library.
 
 #include <chrono>
 #include <map>

@@ -30,7 +30,9 @@ std::filesystem::path WithHome(std::string_view directory, const std::filesystem
 
 }  // namespace
 
-void Drives::Set(char letter, std::filesystem::path directory) { table_[UpperCased(letter)] = std::move(directory); }
+void Drives::Set(char letter, std::filesystem::path directory) {
+  table_[UpperCased(letter)] = std::move(directory);
+}
 
 std::optional<std::filesystem::path> Drives::Directory(char letter) const {
   const auto found = table_.find(UpperCased(letter));
@@ -50,14 +52,16 @@ Drives Drives::Parse(std::string_view content, const std::filesystem::path& home
     std::string_view letter = WithoutBlanks(line.substr(0, equals));
     const std::string_view directory = WithoutBlanks(line.substr(equals + 1));
     if (letter.size() == 2 && letter[1] == ':') letter.remove_suffix(1);
-    if (letter.size() != 1 || UpperCased(letter[0]) < 'A' || UpperCased(letter[0]) > 'Z' || directory.empty()) continue;
+    if (letter.size() != 1 || UpperCased(letter[0]) < 'A' || UpperCased(letter[0]) > 'Z' || directory.empty())
+      continue;
     drives.Set(letter[0], WithHome(directory, home));
   }
   return drives;
 }
 
 Drives Drives::Load(const std::filesystem::path& file, const std::filesystem::path& home) {
-  std::error_code ignored;  // a table that cannot be made leaves a station without drives, which its first write tells
+  std::error_code
+      ignored;  // a table that cannot be made leaves a station without drives, which its first write tells
   if (!std::filesystem::exists(file, ignored)) {
     std::filesystem::create_directories(file.parent_path(), ignored);
     std::ofstream(file) << kFirstTable;

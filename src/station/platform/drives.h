@@ -1,7 +1,8 @@
 #pragma once
 
-// Which directory of the host each drive letter means. The table is the file drives.conf in the user's configuration
-// folder: a line "X = /directory" for each drive, "#" starts a comment, "~" at the start is the user's home.
+// Which directory of the host each drive letter means. The table is the file drives.conf in the user's
+// configuration folder: a line "X = /directory" for each drive, "#" starts a comment, "~" at the start is the
+// user's home.
 
 #include <filesystem>
 #include <map>
@@ -19,7 +20,8 @@ class Drives {
 
   /// Lines that are no entry are passed over.
   static Drives Parse(std::string_view content, const std::filesystem::path& home);
-  /// Reads the file; a missing one is made, with drive C in the home's folder "Quixair", and that folder with it.
+  /// Reads the file; a missing one is made, with drive C in the home's folder "Quixair", and that folder with
+  /// it.
   static Drives Load(const std::filesystem::path& file, const std::filesystem::path& home);
 
  private:

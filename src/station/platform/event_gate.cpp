@@ -4,7 +4,9 @@
 
 namespace quixair {
 
-void EndProgram(int exit_code) { throw ProgramEnd{exit_code}; }
+void EndProgram(int exit_code) {
+  throw ProgramEnd{exit_code};
+}
 
 void EventGate::Enter(const std::function<void()>& event) {
   if (ended_) return;

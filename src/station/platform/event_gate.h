@@ -1,8 +1,9 @@
 #pragma once
 
-// The one door through which events enter the station: clicks, keys and ticks. It ends the program in an orderly way when
-// a step asks for it or meets a fault for which it has no rule, it keeps a programming fault in one event from silencing
-// the air, and it destroys unloaded screens only when no event of theirs is still running.
+// The one door through which events enter the station: clicks, keys and ticks. It ends the program in an
+// orderly way when a step asks for it or meets a fault for which it has no rule, it keeps a programming fault
+// in one event from silencing the air, and it destroys unloaded screens only when no event of theirs is still
+// running.
 
 #include <functional>
 #include <string>
@@ -28,7 +29,8 @@ class EventGate {
   EventGate(const EventGate&) = delete;
   EventGate& operator=(const EventGate&) = delete;
 
-  /// Runs one event; events may nest, as a tick while a box is open. After the program's end nothing runs any more.
+  /// Runs one event; events may nest, as a tick while a box is open. After the program's end nothing runs any
+  /// more.
   void Enter(const std::function<void()>& event);
 
   /// Runs `task` when no event is running: now, or at the end of the outermost one.

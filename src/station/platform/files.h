@@ -1,8 +1,8 @@
 #pragma once
 
-// The station's files, under the paths that its documents name: a drive letter, a colon, folders with backslashes, without
-// regard to case. Drives maps the letters to directories of the host; this interface is the only way from the station to a
-// file. Every operation opens, acts and closes before it returns.
+// The station's files, under the paths that its documents name: a drive letter, a colon, folders with
+// backslashes, without regard to case. Drives maps the letters to directories of the host; this interface is
+// the only way from the station to a file. Every operation opens, acts and closes before it returns.
 
 #include <filesystem>
 #include <optional>
@@ -36,8 +36,8 @@ class Files {
 
   /// A directory look-up: is there a file of this name?
   virtual bool Exists(std::string_view path) = 0;
-  /// Names of the files in `folder` that match `pattern` ("M*.DAT", "*.TPT;*.TPP"; `*` and `?`, without regard to case),
-  /// in the order in which the folder yields them.
+  /// Names of the files in `folder` that match `pattern` ("M*.DAT", "*.TPT;*.TPP"; `*` and `?`, without
+  /// regard to case), in the order in which the folder yields them.
   virtual Result<std::vector<std::string>> List(std::string_view folder, std::string_view pattern) = 0;
 
   /// Where an existing file lies on the host, for the libraries that open files by themselves.

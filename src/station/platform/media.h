@@ -1,8 +1,9 @@
 #pragma once
 
-// The sound of the station as its channels see it: something that is handed a file, plays it by itself and is asked how
-// far it is. The real players mix into one output that stays open for the life of the program; the simulated ones play in
-// virtual time. All functions are called on the user interface thread and none of them waits for a device.
+// The sound of the station as its channels see it: something that is handed a file, plays it by itself and is
+// asked how far it is. The real players mix into one output that stays open for the life of the program; the
+// simulated ones play in virtual time. All functions are called on the user interface thread and none of them
+// waits for a device.
 
 #include <cstdint>
 #include <filesystem>
@@ -30,9 +31,9 @@ class MediaPlayer {
  public:
   virtual ~MediaPlayer() = default;
 
-  /// Opens the file at its start. `name` is the station's own path, for messages and traces; `host_path` is where it lies,
-  /// none when no such file exists. What cannot be opened, or holds no audio, leaves the player not open with length 0.
-  /// An open player closes first.
+  /// Opens the file at its start. `name` is the station's own path, for messages and traces; `host_path` is
+  /// where it lies, none when no such file exists. What cannot be opened, or holds no audio, leaves the
+  /// player not open with length 0. An open player closes first.
   virtual void Open(const std::string& name, const std::optional<std::filesystem::path>& host_path) = 0;
   /// Starts or resumes; Mode is kPlaying when the call returns. Nothing happens when not open.
   virtual void Play() = 0;

@@ -1,7 +1,7 @@
 #pragma once
 
-// Everything that a screen may reach of the world outside the station, as references to what main() made. It is handed to
-// each screen's constructor; nothing here is looked up by name and nothing is global.
+// Everything that a screen may reach of the world outside the station, as references to what main() made. It
+// is handed to each screen's constructor; nothing here is looked up by name and nothing is global.
 
 namespace quixair {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// The outside programs that the station starts and forgets: the mixer, the text editor, the sibling programs. They are
-// named by their command lines on the old PC; the host's table of programs says what is really run.
+// The outside programs that the station starts and forgets: the mixer, the text editor, the sibling programs.
+// They are named by their command lines on the old PC; the host's table of programs says what is really run.
 
 #include <string_view>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-// The run-time errors of the station, under the numbers that its operators and its manual know, and the values that
-// carry them. A function that can fail returns Status or Result; the caller holds to one of three regimes, each
-// visible where it is used:
+// The run-time errors of the station, under the numbers that its operators and its manual know, and the
+// values that carry them. A function that can fail returns Status or Result; the caller holds to one of three
+// regimes, each visible where it is used:
 //   SkipAndGoOn(files.Write(...));            the failed statement is skipped and the next one runs
 //   if (status.error() == RunTimeError::k...) a handler by number
 //   OrEndProgram(files.Write(...));           no rule: the fault ends the program after a box
@@ -45,8 +45,8 @@ class [[nodiscard]] Status {
 template <class T>
 class [[nodiscard]] Result {
  public:
-  Result(T value) : value_(std::move(value)) {}          // NOLINT(google-explicit-constructor)
-  Result(RunTimeError error) : error_(error) {}          // NOLINT(google-explicit-constructor)
+  Result(T value) : value_(std::move(value)) {}  // NOLINT(google-explicit-constructor)
+  Result(RunTimeError error) : error_(error) {}  // NOLINT(google-explicit-constructor)
 
   bool ok() const { return value_.has_value(); }
   RunTimeError error() const { return error_; }

@@ -13,9 +13,13 @@ void Screen::Prepare(const ScreenOpening& opening) {
   if (!opening.title.empty()) SetTitle(opening.title);
 }
 
-void Screen::CloseWindow() { Unload(); }
+void Screen::CloseWindow() {
+  Unload();
+}
 
-void Screen::Unload() { platform_.screens.Unload(*this); }
+void Screen::Unload() {
+  platform_.screens.Unload(*this);
+}
 
 void Screen::SetTitle(std::string title) {
   title_ = std::move(title);

@@ -1,7 +1,7 @@
 #pragma once
 
-// A screen: a window of the program as a plain class whose members are controls. It owns what it loads for as long as it
-// is open; nothing outlives it but what it wrote. Both front ends reach its controls by name.
+// A screen: a window of the program as a plain class whose members are controls. It owns what it loads for as
+// long as it is open; nothing outlives it but what it wrote. Both front ends reach its controls by name.
 
 #include <string>
 #include <string_view>
@@ -19,7 +19,8 @@ class ScreenObserver {
   virtual void ControlChanged(Control& control, Aspect aspect) = 0;
   virtual void TitleChanged(Screen& screen) = 0;
   virtual void VisibilityChanged(Screen& screen) = 0;
-  /// Paint now what has changed: the screen is in the middle of a long step. No act of a person may come in meanwhile.
+  /// Paint now what has changed: the screen is in the middle of a long step. No act of a person may come in
+  /// meanwhile.
   virtual void Repaint(Screen& screen) = 0;
 
  protected:

@@ -6,7 +6,9 @@
 
 namespace quixair {
 
-ScreenRegistry::~ScreenRegistry() { CloseAll(); }
+ScreenRegistry::~ScreenRegistry() {
+  CloseAll();
+}
 
 void ScreenRegistry::Open(std::string_view name, const ScreenOpening& opening) {
   if (Screen* screen = Find(name)) {
@@ -30,7 +32,8 @@ void ScreenRegistry::Open(std::string_view name, const ScreenOpening& opening) {
 }
 
 void ScreenRegistry::Unload(Screen& screen) {
-  const auto found = std::find_if(open_.begin(), open_.end(), [&](const auto& held) { return held.get() == &screen; });
+  const auto found =
+      std::find_if(open_.begin(), open_.end(), [&](const auto& held) { return held.get() == &screen; });
   if (found == open_.end()) return;
   screen.Hide();
   for (Control* control : screen.controls()) {

@@ -1,7 +1,8 @@
 #pragma once
 
-// How one screen opens another: by name, never by including it. What is opened is owned by the one who implements this;
-// a screen that unloads itself is destroyed after the event that asked for it has come to its end.
+// How one screen opens another: by name, never by including it. What is opened is owned by the one who
+// implements this; a screen that unloads itself is destroyed after the event that asked for it has come to
+// its end.
 
 #include <string>
 #include <string_view>
@@ -11,7 +12,8 @@ namespace quixair {
 
 class Screen;
 
-/// What a caller sets on a screen that serves several purposes, before it loads; empty members leave the screen's own.
+/// What a caller sets on a screen that serves several purposes, before it loads; empty members leave the
+/// screen's own.
 struct ScreenOpening {
   std::string title;
   std::vector<std::string> patterns;   // of the file lists

@@ -23,6 +23,8 @@ CivilTime SystemClock::Now() const {
   return time;
 }
 
-SteadyTime SystemClock::Steady() const { return std::chrono::steady_clock::now(); }
+SteadyTime SystemClock::Steady() const {
+  return std::chrono::steady_clock::now();
+}
 
 }  // namespace quixair

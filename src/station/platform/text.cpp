@@ -16,7 +16,9 @@ constexpr std::array<char32_t, 32> kUpperHalf = {
     0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
 
-unsigned char Byte(char c) { return static_cast<unsigned char>(c); }
+unsigned char Byte(char c) {
+  return static_cast<unsigned char>(c);
+}
 
 void AppendUtf8(std::string& out, char32_t point) {
   const auto put = [&out](std::uint32_t value) { out.push_back(static_cast<char>(value)); };
@@ -79,8 +81,8 @@ std::string UpperCased(std::string_view text) {
 }
 
 bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
-  return a.size() == b.size() &&
-         std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return UpperCased(x) == UpperCased(y); });
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
+                                            [](char x, char y) { return UpperCased(x) == UpperCased(y); });
 }
 
 bool LessIgnoringCase(std::string_view a, std::string_view b) {
@@ -125,8 +127,8 @@ std::string FixedDecimals(double value, int decimals) {
   double rounded = std::round(value * scale) / scale;
   if (rounded == 0) rounded = 0;  // no "-0.0"
   std::array<char, 64> buffer{};
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), rounded, std::chars_format::fixed,
-                                 decimals);
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), rounded,
+                                 std::chars_format::fixed, decimals);
   return {buffer.data(), end.ptr};
 }
 

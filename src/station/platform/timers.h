@@ -1,8 +1,9 @@
 #pragma once
 
-// Where the Timer controls get their ticks from: the desktop's come from the toolkit, the simulation's from a virtual
-// queue. All ticks arrive on the user interface thread. Missed shots are not queued: after a long step a timer ticks once
-// and goes on from there. Timers that are due at the same moment tick in the order in which they were made.
+// Where the Timer controls get their ticks from: the desktop's come from the toolkit, the simulation's from a
+// virtual queue. All ticks arrive on the user interface thread. Missed shots are not queued: after a long
+// step a timer ticks once and goes on from there. Timers that are due at the same moment tick in the order in
+// which they were made.
 
 #include <chrono>
 #include <functional>

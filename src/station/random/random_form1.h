@@ -1,8 +1,9 @@
 #pragma once
 
-// RandomForm1, the on-air screen of Random playback. It loads the library into its pools once, then rotates songs, liners,
-// legal ids and breaks, each item a fresh decision. The screen holds the controls and the order of its load; the decisions
-// live in SequencingEngine, the polling in ChannelWatcher, the operator's acts in RunControls.
+// RandomForm1, the on-air screen of Random playback. It loads the library into its pools once, then rotates
+// songs, liners, legal ids and breaks, each item a fresh decision. The screen holds the controls and the
+// order of its load; the decisions live in SequencingEngine, the polling in ChannelWatcher, the operator's
+// acts in RunControls.
 
 #include <array>
 #include <memory>
@@ -36,7 +37,8 @@ class RandomForm1 : public Screen, public OnAirScreen {
                                  Label{CurrFrame, "CurrLabel(4)"}};  // audio file
   Frame LastFrame{*this, "LastFrame", "Last Played"};
   std::array<Label, 2> LastLabel{Label{LastFrame, "LastLabel(0)"}, Label{LastFrame, "LastLabel(1)"}};
-  Frame NextFrame1{*this, "NextFrame1", "Next Up #1"};  // stays empty: the next item is decided when its turn comes
+  Frame NextFrame1{*this, "NextFrame1",
+                   "Next Up #1"};  // stays empty: the next item is decided when its turn comes
   Frame NextFrame2{*this, "NextFrame2", "Next Up #2"};  // likewise
   TextBox Text5{*this, "Text5", TextBox::Use::kShow};   // hint of what kind comes up
   TextBox Text3{*this, "Text3", TextBox::Use::kShow};   // legal id drawn, warnings of the log
@@ -61,8 +63,9 @@ class RandomForm1 : public Screen, public OnAirScreen {
   ListBox List3{*this, "List3"};  // the pools
   Label Label7{*this, "Label7", "Spot/PSA Rotation List"};
   ListBox List5{*this, "List5"};  // internal breaks, row numbers are rows of the rotation
-  Label Label8{*this, "Label8", "Stop-Set Rotation List"};  // or the template's name, or that stop sets are off
-  ListBox List7{*this, "List7"};  // stop-set rotation list
+  Label Label8{*this, "Label8",
+               "Stop-Set Rotation List"};  // or the template's name, or that stop sets are off
+  ListBox List7{*this, "List7"};           // stop-set rotation list
   Label Label5{*this, "Label5", "Empty File/Error Log"};
   ListBox List6{*this, "List6"};  // error log of this screen
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// The ten numbers that shape Random playback, in the order of their file RANDDATA.DTA. The setup screen and the playback
-// screen hold different defaults for a zero, on purpose: each applies its own to what it read.
+// The ten numbers that shape Random playback, in the order of their file RANDDATA.DTA. The setup screen and
+// the playback screen hold different defaults for a zero, on purpose: each applies its own to what it read.
 
 #include <string>
 #include <string_view>

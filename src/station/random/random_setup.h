@@ -1,7 +1,7 @@
 #pragma once
 
-// RandomSetup, the screen on which an operator edits the settings of Random playback. Choices go to the screen's own copy
-// at once and to the file only by Save.
+// RandomSetup, the screen on which an operator edits the settings of Random playback. Choices go to the
+// screen's own copy at once and to the file only by Save.
 
 #include <array>
 
@@ -35,7 +35,7 @@ class RandomSetup : public Screen {
   ListBox List9{*this, "List9"};
   Label Label10{*this, "Label10", "Stop-Set Pause Override (Seconds) 0 = OFF/ 999 = Max.:"};
   ListBox List10{*this, "List10"};
-  Label Label11{*this, "Label11"};  // the override's present value
+  Label Label11{*this, "Label11"};                     // the override's present value
   TextBox Text1{*this, "Text1", TextBox::Use::kShow};  // status
   Button Command1{*this, "Command1", "&Save"};
   Button Command2{*this, "Command2", "&Refresh "};

@@ -1,0 +1,45 @@
+#include "station/console/settings_files.h"
+
+#include "station/console/station_paths.h"
+#include "station/console/value_form.h"
+#include "station/platform/text.h"
+
+namespace quixair {
+
+std::optional<std::string> ReadSetting(Files& files, std::string_view path) {
+  const std::string content = files.Read(path).value_or({});
+  const std::vector<std::string> values = ReadValues(content, 1);
+  if (values.empty()) return std::nullopt;
+  return values.front();
+}
+
+int ReadNumberSetting(Files& files, std::string_view path) {
+  return WholeValue(ReadSetting(files, path).value_or(std::string()));
+}
+
+Status WriteTextSetting(Files& files, std::string_view path, std::string_view value) {
+  return files.Write(path, WriteForm().Text(value).bytes());
+}
+
+Status WriteNumberSetting(Files& files, std::string_view path, int value) {
+  return files.Write(path, WriteForm().Number(value).bytes());
+}
+
+RestartRecord ReadRestartRecord(Files& files) {
+  const std::string content = files.Read(station_paths::kReset).value_or({});
+  std::vector<std::string> values = ReadValues(content, 3);
+  values.resize(3);
+  return {.running = values[0] == "1", .mode = values[1], .template_name = values[2]};
+}
+
+Status WriteRunningRecord(Files& files, std::string_view mode, std::string_view template_name) {
+  const WriteForm form = WriteForm().Text("1").Text(mode).Text(template_name).Text("");
+  return files.Write(station_paths::kReset, form.bytes(), Durability::kFlushed);
+}
+
+Status WriteCleanExitRecord(Files& files) {
+  const WriteForm form = WriteForm().Text("0").Text("X").Text("X").Text("X").Text("X");
+  return files.Write(station_paths::kReset, form.bytes(), Durability::kFlushed);
+}
+
+}  // namespace quixair

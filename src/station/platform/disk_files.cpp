@@ -1,0 +1,297 @@
+#include "station/platform/disk_files.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <utility>
+
+#include "station/platform/text.h"
+
+namespace quixair {
+namespace {
+
+class Descriptor {
+ public:
+  explicit Descriptor(int fd) : fd_(fd) {}
+  ~Descriptor() {
+    if (fd_ >= 0) ::close(fd_);
+  }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  bool open() const { return fd_ >= 0; }
+  int get() const { return fd_; }
+  /// Some file systems tell a full disk only when the file is closed.
+  int Close() { return ::close(std::exchange(fd_, -1)); }
+
+ private:
+  int fd_;
+};
+
+struct FolderCloser {
+  void operator()(DIR* folder) const { ::closedir(folder); }
+};
+using OpenFolder = std::unique_ptr<DIR, FolderCloser>;
+
+RunTimeError FromErrno(int error) {
+  switch (error) {
+    case ENOENT:
+      return RunTimeError::kFileNotFound;
+    case ENOTDIR:
+      return RunTimeError::kPathNotFound;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      return RunTimeError::kDiskFull;
+    case EACCES:
+    case EPERM:
+      return RunTimeError::kPermissionDenied;
+    case EROFS:
+    case EISDIR:
+    case EEXIST:
+    case ENOTEMPTY:
+      return RunTimeError::kPathFileAccess;
+    case EBUSY:
+    case ETXTBSY:
+      return RunTimeError::kFileAlreadyOpen;
+    case ENAMETOOLONG:
+    case EINVAL:
+      return RunTimeError::kBadFileName;
+    default:
+      return RunTimeError::kDeviceInputOutput;
+  }
+}
+
+RunTimeError LastError() {
+  return FromErrno(errno);
+}
+
+bool IsFolder(const std::string& host_path) {
+  struct stat about {};
+  return ::stat(host_path.c_str(), &about) == 0 && S_ISDIR(about.st_mode);
+}
+
+bool IsFile(const std::string& host_path) {
+  struct stat about {};
+  return ::stat(host_path.c_str(), &about) == 0 && S_ISREG(about.st_mode);
+}
+
+Result<std::string> ReadAll(const std::string& host_path) {
+  Descriptor file(::open(host_path.c_str(), O_RDONLY | O_CLOEXEC));
+  if (!file.open()) return LastError();
+  std::string content;
+  // Nearly every file of a station is smaller than this: one read, and one more that finds the end.
+  std::size_t chunk = 4096;
+  for (;;) {
+    const std::size_t before = content.size();
+    content.resize(before + chunk);
+    const ssize_t got = ::read(file.get(), content.data() + before, chunk);
+    if (got < 0 && errno == EINTR) {
+      content.resize(before);
+      continue;
+    }
+    if (got < 0) return LastError();
+    content.resize(before + static_cast<std::size_t>(got));
+    if (got == 0) return content;
+    chunk = content.size() < 65536 ? content.size() + 4096 : 65536;
+  }
+}
+
+Status WriteAll(Descriptor& file, std::string_view bytes, bool flush) {
+  while (!bytes.empty()) {
+    const ssize_t put = ::write(file.get(), bytes.data(), bytes.size());
+    if (put < 0 && errno == EINTR) continue;
+    if (put < 0) return LastError();
+    bytes.remove_prefix(static_cast<std::size_t>(put));
+  }
+  if (flush && ::fdatasync(file.get()) != 0) return LastError();
+  if (file.Close() != 0) return LastError();
+  return {};
+}
+
+/// A new file outlives a power cut only when its folder's entry does.
+void FlushFolder(const std::string& folder) {
+  const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (opened.open()) ::fsync(opened.get());
+}
+
+}  // namespace
+
+Result<std::string> DiskFiles::Read(std::string_view path) {
+  const auto place = Locate(path);
+  if (!place.ok()) return place.error();
+  Result<std::string> content = ReadAll(place.value().exact());
+  if (content.ok() || content.error() != RunTimeError::kFileNotFound) return content;
+  const auto real = Existing(place.value());
+  return real.ok() ? ReadAll(real.value()) : real.error();
+}
+
+Status DiskFiles::Write(std::string_view path, std::string_view bytes, Durability durability) {
+  return Put(path, bytes, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, durability);
+}
+
+Status DiskFiles::Append(std::string_view path, std::string_view bytes, Durability durability) {
+  return Put(path, bytes, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, durability);
+}
+
+Status DiskFiles::Put(std::string_view path, std::string_view bytes, int open_flags, Durability durability) {
+  const auto place = Locate(path);
+  if (!place.ok()) return place.error();
+  std::string target = place.value().exact();
+  const auto real = Existing(place.value());
+  const bool is_new = !real.ok();
+  if (!is_new) target = real.value();
+  const bool index_held = is_new && Index(place.value().folder) != nullptr;
+  Descriptor file(::open(target.c_str(), open_flags, 0666));
+  if (!file.open()) return errno == ENOENT ? RunTimeError::kPathNotFound : LastError();
+  if (is_new) Remember(place.value().folder, place.value().name, index_held);
+  const bool flush = durability == Durability::kFlushed && flushing_ == Flushing::kToDisk;
+  const Status written = WriteAll(file, bytes, flush);
+  if (is_new && flush) FlushFolder(place.value().folder);
+  return written;
+}
+
+Status DiskFiles::Delete(std::string_view path) {
+  const auto place = Locate(path);
+  if (!place.ok()) return place.error();
+  const auto real = Existing(place.value());
+  if (!real.ok()) return real.error();
+  if (::unlink(real.value().c_str()) != 0) return LastError();
+  return {};
+}
+
+Status DiskFiles::Copy(std::string_view from, std::string_view to) {
+  Result<std::string> content = Read(from);
+  if (!content.ok()) return content.error();
+  return Write(to, content.value(), Durability::kFlushed);
+}
+
+Status DiskFiles::MakeFolder(std::string_view path) {
+  const auto place = Locate(path);
+  if (!place.ok()) return place.error();
+  if (IsFolder(place.value().exact()) || RealName(place.value().folder, place.value().name)) {
+    return RunTimeError::kPathFileAccess;
+  }
+  if (::mkdir(place.value().exact().c_str(), 0777) != 0) {
+    return errno == ENOENT ? RunTimeError::kPathNotFound : LastError();
+  }
+  return {};
+}
+
+bool DiskFiles::Exists(std::string_view path) {
+  const auto place = Locate(path);
+  return place.ok() && Existing(place.value()).ok();
+}
+
+Result<std::vector<std::string>> DiskFiles::List(std::string_view folder, std::string_view pattern) {
+  const auto host_folder = HostFolder(folder);
+  if (!host_folder.ok()) return host_folder.error();
+  const OpenFolder stream(::opendir(host_folder.value().c_str()));
+  if (!stream) return errno == ENOENT ? RunTimeError::kPathNotFound : LastError();
+  std::vector<std::string> names;
+  while (const dirent* entry = ::readdir(stream.get())) {
+    std::string name = FromUtf8(entry->d_name);
+    if (!MatchesPattern(name, pattern)) continue;
+    const bool is_file = entry->d_type == DT_REG ||
+                         (entry->d_type != DT_DIR && IsFile(host_folder.value() + '/' + entry->d_name));
+    if (is_file) names.push_back(std::move(name));
+  }
+  return names;
+}
+
+std::optional<std::filesystem::path> DiskFiles::HostPath(std::string_view path) {
+  const auto place = Locate(path);
+  if (!place.ok()) return std::nullopt;
+  auto real = Existing(place.value());
+  if (!real.ok()) return std::nullopt;
+  return std::filesystem::path(std::move(real).value());
+}
+
+Result<DiskFiles::Place> DiskFiles::Locate(std::string_view path) {
+  const std::size_t slash = path.find_last_of("\\/");
+  if (path.size() < 3 || path[1] != ':' || slash == std::string_view::npos) return RunTimeError::kBadFileName;
+  std::string name = ToUtf8(path.substr(slash + 1));
+  if (name.empty() || name == "." || name == ".." || name.find('\0') != std::string::npos) {
+    return RunTimeError::kBadFileName;
+  }
+  auto folder = HostFolder(path.substr(0, slash));
+  if (!folder.ok()) return folder.error();
+  return Place{std::move(folder).value(), std::move(name)};
+}
+
+Result<std::string> DiskFiles::HostFolder(std::string_view drive_and_folders) {
+  if (const auto known = folders_.find(drive_and_folders); known != folders_.end()) {
+    if (IsFolder(known->second)) return known->second;
+    folders_.erase(known);
+  }
+  if (drive_and_folders.size() < 2 || drive_and_folders[1] != ':') return RunTimeError::kBadFileName;
+  const auto drive = drives_.Directory(drive_and_folders[0]);
+  if (!drive || !IsFolder(drive->string())) return RunTimeError::kDiskNotReady;
+  std::string host = drive->string();
+  std::string_view rest = drive_and_folders.substr(2);
+  while (!rest.empty()) {
+    const std::size_t end = std::min(rest.find_first_of("\\/"), rest.size());
+    const std::string part = ToUtf8(rest.substr(0, end));
+    rest.remove_prefix(std::min(end + 1, rest.size()));
+    if (part.empty()) continue;
+    if (part == "..") return RunTimeError::kBadFileName;
+    if (IsFolder(host + '/' + part)) {
+      host += '/' + part;
+    } else if (const auto real = RealName(host, part); real && IsFolder(host + '/' + *real)) {
+      host += '/' + *real;
+    } else {
+      return RunTimeError::kPathNotFound;
+    }
+  }
+  return folders_.emplace(std::string(drive_and_folders), host).first->second;
+}
+
+Result<std::string> DiskFiles::Existing(const Place& place) {
+  std::string exact = place.exact();
+  if (IsFile(exact)) return exact;
+  for (int attempt = 0; attempt < 2; ++attempt) {
+    const auto real = RealName(place.folder, place.name);
+    if (!real) return RunTimeError::kFileNotFound;
+    std::string path = place.folder + '/' + *real;
+    if (IsFile(path)) return path;
+    indexes_.erase(place.folder);  // it was renamed or removed within the folder time's grain
+  }
+  return RunTimeError::kFileNotFound;
+}
+
+std::optional<std::string> DiskFiles::RealName(const std::string& folder, const std::string& name) {
+  const FolderIndex* index = Index(folder);
+  if (index == nullptr) return std::nullopt;
+  const auto found = index->real_names.find(UpperCased(FromUtf8(name)));
+  if (found == index->real_names.end()) return std::nullopt;
+  return found->second;
+}
+
+const DiskFiles::FolderIndex* DiskFiles::Index(const std::string& folder) {
+  std::error_code error;
+  const auto modified = std::filesystem::last_write_time(folder, error);
+  if (error) return nullptr;
+  if (const auto held = indexes_.find(folder); held != indexes_.end() && held->second.modified == modified) {
+    return &held->second;
+  }
+  FolderIndex index{modified, {}};
+  const OpenFolder stream(::opendir(folder.c_str()));
+  if (!stream) return nullptr;
+  while (const dirent* entry = ::readdir(stream.get())) {
+    index.real_names.emplace(UpperCased(FromUtf8(entry->d_name)), entry->d_name);
+  }
+  return &(indexes_[folder] = std::move(index));
+}
+
+void DiskFiles::Remember(const std::string& folder, const std::string& name, bool folder_was_current) {
+  const auto held = indexes_.find(folder);
+  if (held == indexes_.end() || !folder_was_current) return;
+  std::error_code error;
+  held->second.modified = std::filesystem::last_write_time(folder, error);
+  held->second.real_names.emplace(UpperCased(FromUtf8(name)), name);
+}
+
+}  // namespace quixair

@@ -1,0 +1,293 @@
+#include "station/random/random_playback.h"
+
+#include <chrono>
+
+#include "station/console/settings_files.h"
+#include "station/console/station_paths.h"
+#include "station/library/item_resolution.h"
+#include "station/library/recording_file.h"
+#include "station/platform/civil_time.h"
+#include "station/platform/dialogs.h"
+#include "station/platform/event_gate.h"
+#include "station/random/random_form1.h"
+#include "station/templates/template_file.h"
+
+namespace quixair {
+namespace {
+
+constexpr std::chrono::milliseconds kSettingsTick{300000};
+constexpr double kProgressSeconds = 0.15;
+
+[[noreturn]] void RefuseLibrary(const Platform& platform, std::string_view title, std::string_view text) {
+  platform.dialogs.MessageBox(text, box_style::kOk + box_style::kCritical, title);
+  EndProgram();
+}
+
+}  // namespace
+
+RandomPlayback::RandomPlayback(RandomForm1& screen)
+    : context_{.screen = screen,
+               .platform = screen.platform(),
+               .settings = {},
+               .pools = {},
+               .rotation = {},
+               .run = {},
+               .verification_on = true,
+               .faults = AirFaultLog(screen.platform().files, screen.platform().clock, ModeLetter::kRandom,
+                                     [&screen](std::string row) { screen.AddErrorRow(std::move(row)); })},
+      engine_(context_),
+      controls_(context_, engine_),
+      watcher_(context_, engine_, controls_) {
+  engine_.press_start = [this] { controls_.Start(); };
+  ConnectControls();
+  ConnectSwitches();
+}
+
+void RandomPlayback::ConnectControls() {
+  RandomForm1& screen = context_.screen;
+  screen.Start.on_click = [this] { controls_.Start(); };
+  screen.Command2.on_click = [this] {
+    controls_.Quit();
+    context_.platform.screens.Unload(context_.screen);
+  };
+  screen.EndRunCommand.on_click = [this] {
+    controls_.EndRun();
+    context_.platform.screens.Unload(context_.screen);
+  };
+  screen.PauseCommand.on_click = [this] { controls_.Pause(); };
+  screen.ContinueCommand.on_click = [this] { controls_.Continue(); };
+  screen.BeginNextCommand.on_click = [this] { controls_.BeginNext(); };
+  screen.RequeueCommand.on_click = [this] { controls_.Requeue(); };
+  screen.GoLive.on_click = [this] { controls_.GoLive(); };
+  screen.Command4.on_click = [&screen] { screen.StartTime.OpenFrame(); };
+  screen.List1.on_click = [this] { controls_.ChooseFirstEvent(); };
+  screen.Refresh.on_click = [this] { Load(); };
+  screen.Timer1.on_tick = [this] { controls_.StartWhenDue(); };
+  screen.Timer2.on_tick = [this] { watcher_.Tick(); };
+  screen.Timer4.on_tick = [this] { LoadStatus(false); };
+  screen.Channels.ConnectBars([this] { return controls_.BarMayContinue(true); },
+                              [this] { return controls_.BarMayContinue(false); },
+                              [this] { controls_.Continue(); });
+}
+
+void RandomPlayback::ConnectSwitches() {
+  RandomForm1& screen = context_.screen;
+  Files& files = context_.platform.files;
+  screen.Check2.on_click = [this, &screen, &files] {
+    context_.verification_on = screen.Check2.ticked();
+    SkipAndGoOn(WriteNumberSetting(files, station_paths::kRandomVerify, screen.Check2.ticked() ? 0 : 1));
+    screen.Check2.SetCaption(screen.Check2.ticked() ? "Verification Log: ON" : "Verification Log: OFF");
+  };
+  screen.Check3.on_click = [&screen, &files] {
+    SkipAndGoOn(WriteNumberSetting(files, station_paths::kPauseAfterNext, screen.Check3.ticked() ? 1 : 0));
+  };
+  screen.Check4.on_click = [&screen, &files] {
+    SkipAndGoOn(WriteTextSetting(files, station_paths::kSpotDateCheck, screen.Check4.ticked() ? "1" : "0"));
+    screen.Check4.SetCaption(
+        SpotDateCaption(screen.Check4.ticked() ? SpotDateSwitch::kOn : SpotDateSwitch::kOff));
+  };
+  screen.List2.on_click = [&screen] {
+    screen.Command6.Show();
+    screen.Command6.Enable();
+  };
+  screen.Command6.on_click = [&screen, &files] {
+    SkipAndGoOn(WriteTextSetting(files, station_paths::kOverlap, screen.List2.selected_text()));
+    screen.Command6.Disable();
+  };
+  screen.Command5.on_click = [this] { ReadSettings(); };
+}
+
+void RandomPlayback::Load() {
+  RandomForm1& screen = context_.screen;
+  screen.SetTitle("Loading... Please Wait...");
+  screen.List3.Clear();
+  PrepareScreen();
+  if (!LoadMusic()) return;
+  LoadLiners();
+  LoadLegalIds();
+  LoadStatus(true);  // on a restart this starts the run, before the rest is loaded
+  if (context_.settings.BreakType != break_type::kScheduledStopSet) {
+    screen.Command4.Enable();
+    screen.Label8.SetCaption("Stop Sets: [Disabled]");
+  }
+  if (context_.settings.BreakType != break_type::kNone) LoadSpotRotation();
+  ShowSwitches();
+  FillChoices();
+  screen.Text1.SetText("Ready to Begin Playback.  Press START to begin, or QUIT to Exit");
+  screen.Start.SetFocus();
+  screen.Timer4.SetInterval(kSettingsTick);
+  screen.SetTitle("Random Playback Mode  [4X]");
+}
+
+void RandomPlayback::PrepareScreen() {
+  RandomForm1& screen = context_.screen;
+  screen.Channels.MMControl1.Command("Close");
+  screen.Channels.MMControl2.Command("Close");
+  for (Button* button : {&screen.PauseCommand, &screen.ContinueCommand, &screen.BeginNextCommand,
+                         &screen.EndRunCommand, &screen.RequeueCommand}) {
+    button->Hide();
+  }
+  screen.Timer2.SetEnabled(true);
+  screen.AddErrorRow("-- error log --");
+  SkipAndGoOn(WriteTextSetting(context_.platform.files, station_paths::kResetRandom, "0"));
+}
+
+void RandomPlayback::ShowProgress(const std::string& text) {
+  context_.screen.Text1.SetText(text);
+  const SteadyTime now = context_.platform.clock.Steady();
+  if (SecondsBetween(last_progress_, now) < kProgressSeconds) return;
+  last_progress_ = now;
+  context_.screen.Repaint();
+}
+
+void RandomPlayback::ShowPoolRow(const std::string& mark, const PoolRow& row) {
+  context_.screen.List3.AddRow(mark + row.RecordingId + "  " + row.Title);
+}
+
+bool RandomPlayback::LoadMusic() {
+  Files& files = context_.platform.files;
+  Pool& music = context_.pools.music;
+  music.Clear();
+  const int count = GetFileMuscount(files) + 1;
+  if (count == 1) {  // none, or just one
+    context_.screen.Text1.SetText("NO MUSIC FILES FOUND");
+    RefuseLibrary(context_.platform, "Not Enough Music Files",
+                  "In order to use this mode, you must first record several music files.  This program\n"
+                  "will terminate.  Please record at least three (3) music files before using this mode.");
+  }
+  const std::vector<std::string> ids = ListRecordings(files, "M*.DAT");
+  if (static_cast<int>(ids.size()) < count) {
+    context_.platform.dialogs.MessageBox("There are not enough files recorded", box_style::kOk, "Quixair");
+    context_.platform.screens.Unload(context_.screen);
+    return false;
+  }
+  music.Reserve(count);
+  for (const std::string& id : ids) {
+    music.Add(ReadSong(files, id));
+    ShowPoolRow("", music.row(music.count()));
+    ShowProgress(std::to_string(music.count()) + " Files Found...");
+  }
+  return true;
+}
+
+void RandomPlayback::LoadLiners() {
+  Files& files = context_.platform.files;
+  Pool& liners = context_.pools.liners;
+  liners.Clear();
+  const int count = GetFileLinerCount(files) + 1;
+  // The settings are read after this, so on a first load liners are still off here and the test passes.
+  if (count < 2 && context_.settings.LinerEnable == 1) {
+    RefuseLibrary(context_.platform, "Not Enough Liner Files",
+                  "In order to use this mode, you must first record several Liner files.  This program\n"
+                  "will terminate.  Please record at least three (3) Liner files before using this mode.");
+  }
+  std::vector<std::string> ids = ListRecordings(files, "L*.DAT");
+  context_.screen.Text1.SetText(std::to_string(count) + " Files Found...");
+  // Only these two spellings: "lL", "ll" and the "Magic Call" liners stay in the pool.
+  std::erase_if(ids, [](const std::string& id) { return id.starts_with("LL") || id.starts_with("Ll"); });
+  if (ids.size() < 2) {
+    RefuseLibrary(
+        context_.platform, "Not Enough Regular Liner (L*.DAT) Files",
+        "In order to use this mode, you must first record several Regular Liner files.  Regular Liners\n"
+        "start with L, but not LL (legal) or LM (Magic Call).  This program will terminate.");
+  }
+  for (const std::string& id : ids) {
+    liners.Add(ReadLiner(files, id));
+    ShowPoolRow("", liners.row(liners.count()));
+  }
+}
+
+void RandomPlayback::LoadLegalIds() {
+  Files& files = context_.platform.files;
+  Pool& legal_ids = context_.pools.legal_ids;
+  legal_ids.Clear();
+  const int count = GetFilelegalcount(files) + 1;
+  if (count < 2) {
+    RefuseLibrary(context_.platform, "Not Enough Legal I.D. (LL*.DAT) Files",
+                  "In order to use this mode, you must first record several Legal I.D. files.\n"
+                  "Legal I.D. files start with LL.  This program will terminate.");
+  }
+  context_.screen.Text1.SetText(std::to_string(count) + " Files Found...");
+  for (const std::string& id : ListRecordings(files, "LL*.DAT")) {
+    legal_ids.Add(ReadLegalId(files, id));
+    ShowPoolRow("^ ", legal_ids.row(legal_ids.count()));
+  }
+}
+
+void RandomPlayback::ReadSettings() {
+  context_.settings = ReadRandomSettings(context_.platform.files);
+  ApplyPlaybackDefaults(context_.settings);
+  if (rotation_missing_) context_.settings.BreakType = break_type::kNone;
+  ListBox& list = context_.screen.List4;
+  if (list.row_count() >= 3) list.Clear();
+  for (std::string& row : SettingsPrintOut(context_.settings)) list.AddRow(std::move(row));
+}
+
+void RandomPlayback::LoadStatus(bool at_load) {
+  if (at_load) rotation_missing_ = false;
+  ReadSettings();
+  if (!at_load || !ReadRestartRecord(context_.platform.files).running) return;
+  AnnounceRestart();
+  controls_.Start();
+}
+
+void RandomPlayback::AnnounceRestart() {
+  const CivilTime now = context_.platform.clock.Now();
+  const std::string time = HourMinuteSecond24(now);
+  context_.screen.AddErrorRow(ShortDate(now) + "  Auto-Restart Complete: " + time);
+  // Two blanks on purpose: the engineer's eye finds the line by them.
+  SkipAndGoOn(LogError(
+      context_.platform.files,
+      ErrorLineStart(ModeLetter::kRandom, now) + "  Auto-Restart Complete: " + time + "  " + ShortDate(now)));
+}
+
+void RandomPlayback::LoadSpotRotation() {
+  RandomForm1& screen = context_.screen;
+  Files& files = context_.platform.files;
+  Pool& spots = context_.pools.spots;
+  screen.Text1.SetText("Loading Spot/PSA Rotation File...");
+  screen.List5.Clear();
+  screen.List5.AddRow("--Internal Random List--");
+  spots.Clear();
+  const std::string content = files.Read(station_paths::kRotation).value_or({});
+  const std::vector<TemplateEvent> events = EventsToFirstEmpty(content, kMaxTemplateLines);
+  if (events.empty()) {
+    screen.Text1.SetText("NO SPOT ROTATION FILES FOUND!!!");
+    rotation_missing_ = true;
+    context_.settings.BreakType = break_type::kNone;
+    return;
+  }
+  for (const TemplateEvent& event : events) screen.List5.AddRow(event.EventId);
+  for (const TemplateEvent& event : events) {
+    spots.Add(ReadRotationSpot(files, event.EventId));
+    ShowProgress(std::to_string(spots.count()) + " Spots/PSA's Found...");
+  }
+}
+
+void RandomPlayback::ShowSwitches() {
+  RandomForm1& screen = context_.screen;
+  Files& files = context_.platform.files;
+  const SpotDateSwitch date_check = ReadSpotDateSwitch(files);
+  if (date_check != SpotDateSwitch::kUnknown) screen.Check4.Tick(date_check == SpotDateSwitch::kOn);
+  screen.Check4.SetCaption(SpotDateCaption(date_check));
+  const bool verify = ReadNumberSetting(files, station_paths::kRandomVerify) != 1;
+  context_.verification_on = verify;
+  screen.Check2.Tick(verify);
+  screen.Check2.SetCaption(verify ? "Verification Log: ON" : "Verification Log: OFF");
+  screen.Check3.Tick(ReadNumberSetting(files, station_paths::kPauseAfterNext) == 1);
+}
+
+void RandomPlayback::FillChoices() {
+  RandomForm1& screen = context_.screen;
+  screen.List1.Clear();  // events come with a template
+  screen.List2.Clear();
+  for (int seconds = 0; seconds <= 9; ++seconds) screen.List2.AddRow(std::to_string(seconds));
+  const std::string overlap =
+      ReadSetting(context_.platform.files, station_paths::kOverlap).value_or(std::string());
+  const bool valid = overlap.size() == 1 && overlap[0] >= '0' && overlap[0] <= '9';
+  screen.List2.Select(valid ? overlap[0] - '0' : 0);
+  screen.Command6.Hide();
+  screen.Command6.Disable();
+}
+
+}  // namespace quixair

@@ -1,0 +1,242 @@
+#include "station/random/sequencing_engine.h"
+
+#include <algorithm>
+#include <chrono>
+
+#include "station/console/logs.h"
+#include "station/console/station_paths.h"
+#include "station/library/item_resolution.h"
+#include "station/library/recording_file.h"
+#include "station/platform/civil_time.h"
+#include "station/platform/text.h"
+#include "station/random/random_form1.h"
+#include "station/random/random_playback.h"
+
+namespace quixair {
+namespace {
+
+constexpr std::chrono::milliseconds kChannelPollTick{210};
+constexpr std::chrono::milliseconds kOverlapTick{1000};
+
+/// The id at the start of a label's text.
+std::string LeadingId(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+  return std::string(text.substr(0, text.find(' ')));
+}
+
+}  // namespace
+
+std::string PlaybackText(bool stop_set) {
+  return stop_set ? std::string(33, ' ') + "Digital Audio Playback in Progress - [Stop Set]"
+                  : std::string(48, ' ') + "Digital Audio Playback in Progress";
+}
+
+SequencingEngine::SequencingEngine(RandomContext& context)
+    : context_(context),
+      selection_(context.settings, context.pools, context.rotation, context.platform.random) {}
+
+void SequencingEngine::PlayNextItem() {
+  if (depth_ >= kMaxNestedSteps) return;
+  ++depth_;
+  Step();
+  --depth_;
+}
+
+void SequencingEngine::Step() {
+  RunState& run = context_.run;
+  if (run.restart_requested == 1) {
+    press_start();
+    run.restart_requested = 0;
+  }
+  RememberLastItem();
+  if (run.LiveRequested == 1) {
+    HoldForLive();
+    return;
+  }
+  if (!ChooseItem(item_)) return;
+  const WorkingItem item = item_;  // a nested step chooses anew; this one goes on with its own
+  StartItem(item);
+}
+
+void SequencingEngine::RememberLastItem() {
+  RandomForm1& screen = context_.screen;
+  for (std::size_t row = 0; row < 2; ++row) screen.LastLabel[row].SetCaption(screen.CurrLabel[row].caption());
+  last_item_id_ = LeadingId(screen.LastLabel[0].caption());
+}
+
+void SequencingEngine::HoldForLive() {
+  RandomForm1& screen = context_.screen;
+  screen.Text1.SetText("AUDIO PAUSED FOR LIVE BREAK ! - Press <CONTINUE> to Resume");
+  screen.GoLive.SetCaption("LIVE NOW!");
+  screen.GoLive.Disable();
+  screen.ContinueCommand.SetFocus();
+  context_.run.AudioPaused = 1;
+  context_.run.live_now = true;
+  context_.run.ItemStartTimer = context_.platform.clock.Steady();
+  screen.CurrLabel[0].SetCaption(" LIVE !");
+  screen.CurrLabel[1].SetCaption(" ");
+  screen.CurrLabel[2].SetCaption(" ");
+  screen.PauseCommand.Disable();
+  screen.RequeueCommand.Disable();
+}
+
+bool SequencingEngine::ChooseItem(WorkingItem& item) {
+  switch (selection_.TakeLegalIdWhenDue(context_.platform.clock.Now().minute, item)) {
+    case ItemSelection::LegalId::kBeforeTheHour:
+      context_.screen.Text3.SetText(item.RecordingId);
+      return true;
+    case ItemSelection::LegalId::kAfterTheHour:
+      return true;
+    case ItemSelection::LegalId::kNone:
+      break;
+  }
+  // A due stop set takes its turn here, before the rotation.
+  return selection_.Choose(last_item_id_, item);
+}
+
+void SequencingEngine::StartItem(const WorkingItem& item) {
+  std::string extension;
+  Started started;
+  if (IsSpotId(item.RecordingId)) CheckSpot(item);
+  ShowHint(item);
+  ShowItem(item);
+  CloseIdleChannel();
+  Play(1, started);
+  StartOnIdleChannel(item, extension, started);
+  StartOverlapped(item, extension, started);
+  Verify(item, started);
+  FinishStep();
+}
+
+void SequencingEngine::CheckSpot(const WorkingItem& item) {
+  Files& files = context_.platform.files;
+  if (!files.Exists(station_paths::DataFile(item.RecordingId))) {
+    ++context_.run.event_counter;
+    PlayNextItem();
+    return;
+  }
+  const std::vector<std::string> fields = ReadLeadingFields(files, item.RecordingId, 7);
+  const SpotDateSwitch date_check = ReadSpotDateSwitch(files);
+  if (date_check == SpotDateSwitch::kUnknown) context_.screen.Check4.SetCaption(SpotDateCaption(date_check));
+  if (date_check != SpotDateSwitch::kOn) return;
+  const auto refusal = SpotDateRefusal(fields[5], fields[6], context_.platform.clock.Now());
+  if (!refusal) return;
+  ++context_.run.event_counter;
+  Refuse(item.RecordingId + *refusal);
+  PlayNextItem();
+}
+
+void SequencingEngine::Refuse(const std::string& row) {
+  context_.faults.Add(row, ' ' + row);
+}
+
+void SequencingEngine::ShowHint(const WorkingItem& item) {
+  const RotationState& rotation = context_.rotation;
+  const RandomSettings& settings = context_.settings;
+  TextBox& hint = context_.screen.Text5;
+  if (rotation.SongsSinceBreak < settings.SongsPerBreak) hint.SetText(" (Music File Coming Up)");
+  if (rotation.SongsSinceLiner == settings.SongsPerLiner && settings.LinerEnable != 0) {
+    hint.SetText(" (Liner File Coming Up)");
+  }
+  if (rotation.SongsSinceBreak == settings.SongsPerBreak &&
+      settings.BreakType == break_type::kInternalRandom) {
+    hint.SetText(" (Break Coming Up)   ");
+  }
+  if (rotation.SpotsInBreak == settings.MaxSpotsPerBreak) {
+    if (settings.LinerEnable == 1) hint.SetText(" (Liner File Coming Up)");
+    // In another box than the rest: a slip that operators are used to.
+    if (settings.LinerEnable == 0) context_.screen.Text3.SetText(" (Music File Coming Up)");
+  }
+  if (item.RecordingId.starts_with('S')) hint.SetText(" (Playing Break Now)  ");
+}
+
+void SequencingEngine::ShowItem(const WorkingItem& item) {
+  RandomForm1& screen = context_.screen;
+  screen.Text1.SetText(PlaybackText(context_.run.StopSetActive == 1));
+  for (std::size_t row = 0; row < 4; ++row) screen.CurrLabel[row].SetForeColor(kWhite);
+  screen.CurrLabel[0].SetCaption(' ' + item.RecordingId + "  " + item.first_text);
+  screen.CurrLabel[1].SetCaption(' ' + item.Title);
+  screen.CurrLabel[2].SetCaption(" Length:   " + item.Length);
+  screen.CurrLabel[3].SetCaption(" Elapsed: ");
+}
+
+void SequencingEngine::CloseIdleChannel() {
+  MediaControl& channel = context_.screen.Channels.MMControl1;
+  if (channel.Mode() != ChannelMode::kNotOpen || context_.run.OverlapActive != 0) return;
+  channel.Command("Close");
+  channel.Command("Close");
+}
+
+/// Also sent before an item is opened, when it does nothing on the closed channel; behind a nested step it
+/// finds the replacement playing, and the labels then tell that channel's file.
+void SequencingEngine::Play(int number, Started& started) {
+  RandomForm1& screen = context_.screen;
+  MediaControl& channel = screen.Channels.channel(number);
+  channel.Command("Play");
+  started.start_time = HourMinuteSecondAmPm(context_.platform.clock.Now());
+  context_.run.ActiveChannel = number;
+  screen.CurrLabel[2].SetCaption(" Length:   " + ShortestSeconds(channel.Length()));
+  screen.CurrLabel[4].SetCaption('(' + channel.file_name() + ')');
+}
+
+void SequencingEngine::StartOnIdleChannel(const WorkingItem& item, std::string& extension, Started& started) {
+  if (context_.screen.Channels.MMControl1.Mode() == ChannelMode::kPlaying) return;
+  OpenAndPlay(1, item, extension, started);
+}
+
+void SequencingEngine::StartOverlapped(const WorkingItem& item, std::string& extension, Started& started) {
+  if (context_.run.OverlapActive != 1) return;
+  if (context_.screen.Channels.MMControl1.Mode() != ChannelMode::kPlaying) return;
+  OpenAndPlay(2, item, extension, started);
+}
+
+void SequencingEngine::OpenAndPlay(int number, const WorkingItem& item, std::string& extension,
+                                   Started& started) {
+  MediaControl& channel = context_.screen.Channels.channel(number);
+  // With neither file there, the extension stays as it was, and the path that cannot be opened is what gets
+  // reported.
+  if (auto found = FindAudioFile(context_.platform.files, item.Drive, item.RecordingId))
+    extension = std::move(*found);
+  if (OpenFile(channel, station_paths::AudioFile(item.Drive, item.RecordingId, extension)) == 0) {
+    ReportEmpty(channel);
+    channel.Command("Close");
+    PlayNextItem();
+  }
+  Play(number, started);
+}
+
+void SequencingEngine::ReportEmpty(const MediaControl& channel) {
+  Refuse(channel.file_name() + " = Empty!!!");
+}
+
+bool SequencingEngine::AnythingSounds() {
+  const ChannelBank& channels = context_.screen.Channels;
+  return channels.MMControl1.Mode() == ChannelMode::kPlaying ||
+         channels.MMControl2.Mode() == ChannelMode::kPlaying;
+}
+
+void SequencingEngine::Verify(const WorkingItem& item, const Started& started) {
+  if (!AnythingSounds()) return;  // nothing could be started in its place either: no proof of airing
+  context_.faults.ItemSounds();
+  if (!context_.verification_on || !IsVerified(item.RecordingId)) return;
+  const Status written = LogVerification(context_.platform.files, context_.platform.clock.Now(),
+                                         item.RecordingId, LogDescription(item.RecordingId, item.first_text),
+                                         started.start_time, ModeLetter::kRandom);
+  if (written.error() == RunTimeError::kDiskFull) {
+    context_.screen.Text3.SetText(kDriveFullWarning);
+    context_.screen.Text3.Show();
+  }
+}
+
+void SequencingEngine::FinishStep() {
+  RandomForm1& screen = context_.screen;
+  const CivilTime now = context_.platform.clock.Now();
+  screen.Text2.SetText("Today is: " + DayName(now) + ". " + MonthDayYear(now));
+  context_.run.ItemStartTimer = context_.platform.clock.Steady();
+  screen.Timer2.SetInterval(kChannelPollTick);
+  if (screen.List2.selected_index() < 0) screen.List2.Select(0);
+  const bool overlap = screen.List2.selected_text() != "0" && screen.List2.selected_index() > 0;
+  screen.Timer3.SetInterval(overlap ? kOverlapTick : std::chrono::milliseconds(0));
+}
+
+}  // namespace quixair

@@ -1,0 +1,69 @@
+#pragma once
+
+// The heart of Random playback: PlayNextItem decides what plays next and starts it. It runs whenever a
+// channel has finished and after the operator's Start, Continue and Begin Next.
+//
+// When an item is refused (a spot out of its dates, an audio file that is empty) the step calls itself for a
+// replacement and then goes on with its own remaining statements, as a plain call does: the replacement is on
+// the air, and the refused item still overwrites the labels and stands in the verification log. That is
+// wanted; a reviewer should expect it. The nesting is bounded: when nothing can be opened at all, the
+// innermost call returns at once and the watcher tries again at its later ticks.
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "station/random/item_selection.h"
+
+namespace quixair {
+
+class MediaControl;
+struct RandomContext;
+
+class SequencingEngine {
+ public:
+  static constexpr int kMaxNestedSteps = 25;
+
+  explicit SequencingEngine(RandomContext& context);
+  void PlayNextItem();
+
+  /// Presses Start when a run was asked for by a flag.
+  std::function<void()> press_start;
+
+ private:
+  /// What became of an item on its way to a channel.
+  struct Started {
+    std::string start_time;  // "HH:MM:SS AM/PM", made right after "Play"
+  };
+
+  void Step();
+  void RememberLastItem();
+  void HoldForLive();
+  bool ChooseItem(WorkingItem& item);
+  void StartItem(const WorkingItem& item);
+
+  void CheckSpot(const WorkingItem& item);
+  void Refuse(const std::string& row);
+  void ShowHint(const WorkingItem& item);
+  void ShowItem(const WorkingItem& item);
+  void CloseIdleChannel();
+  void StartOnIdleChannel(const WorkingItem& item, std::string& extension, Started& started);
+  void StartOverlapped(const WorkingItem& item, std::string& extension, Started& started);
+  void OpenAndPlay(int number, const WorkingItem& item, std::string& extension, Started& started);
+  void Play(int number, Started& started);
+  void ReportEmpty(const MediaControl& channel);
+  void Verify(const WorkingItem& item, const Started& started);
+  void FinishStep();
+  bool AnythingSounds();
+
+  RandomContext& context_;
+  ItemSelection selection_;
+  WorkingItem item_;  // what the last choice stood at; a choice may leave it as it is
+  std::string last_item_id_;
+  int depth_ = 0;
+};
+
+/// The status text of a run; a stop set has its own.
+std::string PlaybackText(bool stop_set);
+
+}  // namespace quixair

@@ -1,0 +1,32 @@
+#include "station/screen_catalogue.h"
+
+#include "station/console/console.h"
+#include "station/console/error_log.h"
+#include "station/console/first_use.h"
+#include "station/console/not_built.h"
+#include "station/console/splash.h"
+#include "station/random/random_form1.h"
+#include "station/random/random_form2.h"
+#include "station/random/random_setup.h"
+
+namespace quixair {
+namespace {
+
+template <class AnyScreen>
+std::unique_ptr<Screen> Make(const Platform& platform) {
+  return std::make_unique<AnyScreen>(platform);
+}
+
+}  // namespace
+
+ScreenRegistry::Catalogue StationScreens() {
+  return {
+      {"Console", Make<Console>},           {"ErrorLog", Make<ErrorLog>},
+      {"frmSplash", Make<Splash>},          {"InstallInfo", Make<InstallInfo>},
+      {"InstallInfo2", Make<InstallInfo2>}, {"MMregOCX", Make<MMregOCX>},
+      {"NotBuilt", Make<NotBuilt>},         {"RandomForm1", Make<RandomForm1>},
+      {"RandomForm2", Make<RandomForm2>},   {"RandomSetup", Make<RandomSetup>},
+  };
+}
+
+}  // namespace quixair
