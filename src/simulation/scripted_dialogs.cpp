@@ -1,0 +1,65 @@
+#include "simulation/scripted_dialogs.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "station/platform/text.h"
+
+namespace quixair::simulation {
+namespace {
+
+std::vector<Answer> Offered(int style) {
+  switch (style & box_style::kButtonMask) {
+    case box_style::kOkCancel: return {Answer::kOk, Answer::kCancel};
+    case box_style::kYesNoCancel: return {Answer::kYes, Answer::kNo, Answer::kCancel};
+    case box_style::kYesNo: return {Answer::kYes, Answer::kNo};
+    default: return {Answer::kOk};
+  }
+}
+
+}  // namespace
+
+std::string_view NameOf(Answer answer) {
+  switch (answer) {
+    case Answer::kOk: return "OK";
+    case Answer::kCancel: return "Cancel";
+    case Answer::kYes: return "Yes";
+    case Answer::kNo: return "No";
+  }
+  return {};
+}
+
+Answer ScriptedDialogs::MessageBox(std::string_view text, int style, std::string_view title) {
+  ShownBox box{.input = false, .style = style, .title = std::string(title), .text = std::string(text), .answer = {}};
+  const std::vector<Answer> offered = Offered(style);
+  Answer answer = offered.back();
+  std::optional<std::string> wanted;
+  if (!answers_.empty()) {
+    wanted = answers_.front();
+    answers_.pop_front();
+  }
+  const auto match = std::find_if(offered.begin(), offered.end(), [&](Answer candidate) {
+    return wanted && EqualsIgnoringCase(NameOf(candidate), *wanted);
+  });
+  if (match != offered.end()) answer = *match;
+  box.answer = NameOf(answer);
+  shown_.push_back(box);
+  if (on_box) on_box(box);
+  if (match == offered.end() && on_unexpected) on_unexpected(box);
+  return answer;
+}
+
+std::string ScriptedDialogs::InputBox(std::string_view prompt, std::string_view title, std::string_view /*initial*/) {
+  ShownBox box{.input = true, .style = 0, .title = std::string(title), .text = std::string(prompt), .answer = {}};
+  const bool expected = !answers_.empty();
+  if (expected) {
+    box.answer = answers_.front();
+    answers_.pop_front();
+  }
+  shown_.push_back(box);
+  if (on_box) on_box(box);
+  if (!expected && on_unexpected) on_unexpected(box);
+  return box.answer;
+}
+
+}  // namespace quixair::simulation

@@ -1,0 +1,56 @@
+#pragma once
+
+// A person who answers boxes as told beforehand, and a record of what was asked; outside programs that are only noted.
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "station/platform/dialogs.h"
+#include "station/platform/programs.h"
+
+namespace quixair::simulation {
+
+struct ShownBox {
+  bool input = false;
+  int style = 0;
+  std::string title;
+  std::string text;
+  std::string answer;  // "OK", "Cancel", "Yes", "No", or the typed text
+};
+
+class ScriptedDialogs : public Dialogs {
+ public:
+  Answer MessageBox(std::string_view text, int style, std::string_view title) override;
+  std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
+
+  /// Queues the answer of the next box: a button's name, or the text of an input box.
+  void QueueAnswer(std::string answer) { answers_.push_back(std::move(answer)); }
+  const std::vector<ShownBox>& shown() const { return shown_; }
+
+  std::function<void(const ShownBox&)> on_box;
+  /// A box came for which no answer was queued, or one that it does not offer; it is cancelled, or acknowledged where it
+  /// can only be that.
+  std::function<void(const ShownBox&)> on_unexpected;
+
+ private:
+  std::deque<std::string> answers_;
+  std::vector<ShownBox> shown_;
+};
+
+std::string_view NameOf(Answer answer);
+
+class NotedPrograms : public Programs {
+ public:
+  void Run(std::string_view command_line, WindowState window) override {
+    if (on_run) on_run(std::string(command_line), window);
+  }
+  void SendKeys(std::string_view keys) override {
+    if (on_keys) on_keys(std::string(keys));
+  }
+  std::function<void(const std::string& command_line, WindowState window)> on_run;
+  std::function<void(const std::string& keys)> on_keys;
+};
+
+}  // namespace quixair::simulation

@@ -1,0 +1,78 @@
+#pragma once
+
+// The whole station in virtual time, without display or sound, on real folders: what the script front end and the tests
+// drive. The clock, the folders and the person who answers outlive the program, so that it can be started again after its
+// end or after a power cut.
+
+#include <memory>
+#include <optional>
+
+#include "simulation/scripted_dialogs.h"
+#include "simulation/simulated_media.h"
+#include "simulation/virtual_time.h"
+#include "station/platform/disk_files.h"
+#include "station/platform/engine_random.h"
+#include "station/platform/event_gate.h"
+#include "station/platform/platform.h"
+#include "station/platform/screen_registry.h"
+
+namespace quixair::simulation {
+
+class SimulatedStation {
+ public:
+  SimulatedStation(Drives drives, const CivilTime& civil, LengthProbe probe, std::optional<std::uint64_t> seed);
+  ~SimulatedStation();
+  SimulatedStation(const SimulatedStation&) = delete;
+  SimulatedStation& operator=(const SimulatedStation&) = delete;
+
+  /// Starts the program with its screens, as main does; opens nothing by itself.
+  void StartProgram();
+  /// Opens the console in it.
+  void OpenConsole();
+  /// The program is gone without an orderly end.
+  void PowerCut();
+  /// Between StartProgram and the program's end.
+  bool running() const { return program_ != nullptr && !program_->gate.ended(); }
+  /// Of the program that last ended in an orderly way.
+  int exit_code() const { return program_ ? program_->gate.exit_code() : 0; }
+
+  /// An event from outside, through the program's gate.
+  void Do(const std::function<void()>& event);
+  /// The open screen of that name, or none.
+  Screen* FindScreen(std::string_view name);
+
+  VirtualTime& time() { return time_; }
+  DiskFiles& files() { return files_; }
+  SimulatedMedia& media() { return media_; }
+  ScriptedDialogs& dialogs() { return dialogs_; }
+  NotedPrograms& programs() { return programs_; }
+  /// Of the running program.
+  const Platform& platform() const { return program_->platform; }
+
+  std::function<void(const std::string& screen, bool opened)> on_screen;
+  std::function<void(int exit_code)> on_end;
+  std::function<void(const std::string& what)> on_fault;
+
+ private:
+  struct Program final : ScreensObserver {
+    explicit Program(SimulatedStation& station);
+    void ScreenOpened(Screen& screen) override;
+    void ScreenClosed(Screen& screen) override;
+    void ScreenActivated(Screen&) override {}
+
+    SimulatedStation& owner;
+    EventGate gate;
+    ScreenRegistry screens;
+    Platform platform;
+  };
+
+  VirtualTime time_;
+  DiskFiles files_;
+  SimulatedMedia media_;
+  ScriptedDialogs dialogs_;
+  NotedPrograms programs_;
+  EngineRandom random_;
+  std::unique_ptr<Program> program_;
+};
+
+}  // namespace quixair::simulation
