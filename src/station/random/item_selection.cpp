@@ -46,8 +46,7 @@ bool ItemSelection::Choose(std::string_view last_item_id, WorkingItem& item) {
   }
   int compared = 0;  // of this one call, over all its draws
   for (int hand_overs = 0;; ++hand_overs) {
-    if (hand_overs == kMaxHandOvers) rule = Rule::kMusic;
-    if (hand_overs == 2 * kMaxHandOvers) rule = Rule::kOverrun;
+    if (hand_overs >= kMaxHandOvers && rule == Rule::kDecide) rule = Rule::kMusic;
     switch (rule) {
       case Rule::kDecide:
         rule = Decide();
