@@ -14,6 +14,8 @@
 namespace quixair {
 namespace {
 
+constexpr std::chrono::milliseconds kFolderTimeGrain{50};
+
 class Descriptor {
  public:
   explicit Descriptor(int fd) : fd_(fd) {}
@@ -83,7 +85,7 @@ Result<std::string> ReadAll(const std::string& host_path) {
   Descriptor file(::open(host_path.c_str(), O_RDONLY | O_CLOEXEC));
   if (!file.open()) return LastError();
   std::string content;
-  // Nearly every file of a station is smaller than this: one read, and one more that finds the end.
+  // Nearly every file of a station is smaller than this: one read is all.
   std::size_t chunk = 4096;
   for (;;) {
     const std::size_t before = content.size();
@@ -95,8 +97,8 @@ Result<std::string> ReadAll(const std::string& host_path) {
     }
     if (got < 0) return LastError();
     content.resize(before + static_cast<std::size_t>(got));
-    if (got == 0) return content;
-    chunk = content.size() < 65536 ? content.size() + 4096 : 65536;
+    if (static_cast<std::size_t>(got) < chunk) return content;  // of a file, that is its end
+    chunk = 65536;
   }
 }
 
@@ -121,12 +123,15 @@ void FlushFolder(const std::string& folder) {
 }  // namespace
 
 Result<std::string> DiskFiles::Read(std::string_view path) {
-  const auto place = Locate(path);
+  auto place = Locate(path);
   if (!place.ok()) return place.error();
   Result<std::string> content = ReadAll(place.value().exact());
   if (content.ok() || content.error() != RunTimeError::kFileNotFound) return content;
   const auto real = Existing(place.value());
-  return real.ok() ? ReadAll(real.value()) : real.error();
+  if (real.ok()) return ReadAll(real.value());
+  if (!ForgetMissingFolder(place.value())) return real.error();
+  place = Locate(path);
+  return place.ok() ? ReadAll(place.value().exact()) : place.error();
 }
 
 Status DiskFiles::Write(std::string_view path, std::string_view bytes, Durability durability) {
@@ -138,13 +143,14 @@ Status DiskFiles::Append(std::string_view path, std::string_view bytes, Durabili
 }
 
 Status DiskFiles::Put(std::string_view path, std::string_view bytes, int open_flags, Durability durability) {
-  const auto place = Locate(path);
+  auto place = Locate(path);
+  if (place.ok() && ForgetMissingFolder(place.value())) place = Locate(path);
   if (!place.ok()) return place.error();
   std::string target = place.value().exact();
   const auto real = Existing(place.value());
   const bool is_new = !real.ok();
   if (!is_new) target = real.value();
-  const bool index_held = is_new && Index(place.value().folder) != nullptr;
+  const bool index_held = is_new && NamedIndex(place.value().folder) != nullptr;
   Descriptor file(::open(target.c_str(), open_flags, 0666));
   if (!file.open()) return errno == ENOENT ? RunTimeError::kPathNotFound : LastError();
   if (is_new) Remember(place.value().folder, place.value().name, index_held);
@@ -155,7 +161,8 @@ Status DiskFiles::Put(std::string_view path, std::string_view bytes, int open_fl
 }
 
 Status DiskFiles::Delete(std::string_view path) {
-  const auto place = Locate(path);
+  auto place = Locate(path);
+  if (place.ok() && ForgetMissingFolder(place.value())) place = Locate(path);
   if (!place.ok()) return place.error();
   const auto real = Existing(place.value());
   if (!real.ok()) return real.error();
@@ -170,7 +177,8 @@ Status DiskFiles::Copy(std::string_view from, std::string_view to) {
 }
 
 Status DiskFiles::MakeFolder(std::string_view path) {
-  const auto place = Locate(path);
+  auto place = Locate(path);
+  if (place.ok() && ForgetMissingFolder(place.value())) place = Locate(path);
   if (!place.ok()) return place.error();
   if (IsFolder(place.value().exact()) || RealName(place.value().folder, place.value().name)) {
     return RunTimeError::kPathFileAccess;
@@ -181,31 +189,32 @@ Status DiskFiles::MakeFolder(std::string_view path) {
   return {};
 }
 
-bool DiskFiles::Exists(std::string_view path) {
-  const auto place = Locate(path);
-  return place.ok() && Existing(place.value()).ok();
-}
+bool DiskFiles::Exists(std::string_view path) { return HostPath(path).has_value(); }
 
 Result<std::vector<std::string>> DiskFiles::List(std::string_view folder, std::string_view pattern) {
-  const auto host_folder = HostFolder(folder);
+  auto host_folder = HostFolder(folder);
+  if (host_folder.ok() && ForgetMissingFolder({host_folder.value(), {}})) host_folder = HostFolder(folder);
   if (!host_folder.ok()) return host_folder.error();
-  const OpenFolder stream(::opendir(host_folder.value().c_str()));
-  if (!stream) return errno == ENOENT ? RunTimeError::kPathNotFound : LastError();
+  const FolderIndex* index = OrderedIndex(host_folder.value());
+  if (index == nullptr) return LastError();
   std::vector<std::string> names;
-  while (const dirent* entry = ::readdir(stream.get())) {
-    std::string name = FromUtf8(entry->d_name);
-    if (!MatchesPattern(name, pattern)) continue;
-    const bool is_file = entry->d_type == DT_REG ||
-                         (entry->d_type != DT_DIR && IsFile(host_folder.value() + '/' + entry->d_name));
-    if (is_file) names.push_back(std::move(name));
+  for (const Entry& entry : index->entries) {
+    if (!entry.is_file) continue;
+    std::string name = FromUtf8(entry.name);
+    if (MatchesPattern(name, pattern)) names.push_back(std::move(name));
   }
   return names;
 }
 
 std::optional<std::filesystem::path> DiskFiles::HostPath(std::string_view path) {
-  const auto place = Locate(path);
+  auto place = Locate(path);
   if (!place.ok()) return std::nullopt;
   auto real = Existing(place.value());
+  if (!real.ok() && ForgetMissingFolder(place.value())) {
+    place = Locate(path);
+    if (!place.ok()) return std::nullopt;
+    real = Existing(place.value());
+  }
   if (!real.ok()) return std::nullopt;
   return std::filesystem::path(std::move(real).value());
 }
@@ -223,10 +232,7 @@ Result<DiskFiles::Place> DiskFiles::Locate(std::string_view path) {
 }
 
 Result<std::string> DiskFiles::HostFolder(std::string_view drive_and_folders) {
-  if (const auto known = folders_.find(drive_and_folders); known != folders_.end()) {
-    if (IsFolder(known->second)) return known->second;
-    folders_.erase(known);
-  }
+  if (const auto known = folders_.find(drive_and_folders); known != folders_.end()) return known->second;
   if (drive_and_folders.size() < 2 || drive_and_folders[1] != ':') return RunTimeError::kBadFileName;
   const auto drive = drives_.Directory(drive_and_folders[0]);
   if (!drive || !IsFolder(drive->string())) return RunTimeError::kDiskNotReady;
@@ -249,6 +255,12 @@ Result<std::string> DiskFiles::HostFolder(std::string_view drive_and_folders) {
   return folders_.emplace(std::string(drive_and_folders), host).first->second;
 }
 
+bool DiskFiles::ForgetMissingFolder(const Place& place) {
+  if (IsFolder(place.folder)) return false;
+  folders_.clear();
+  return true;
+}
+
 Result<std::string> DiskFiles::Existing(const Place& place) {
   std::string exact = place.exact();
   if (IsFile(exact)) return exact;
@@ -263,27 +275,49 @@ Result<std::string> DiskFiles::Existing(const Place& place) {
 }
 
 std::optional<std::string> DiskFiles::RealName(const std::string& folder, const std::string& name) {
-  const FolderIndex* index = Index(folder);
+  const FolderIndex* index = NamedIndex(folder);
   if (index == nullptr) return std::nullopt;
   const auto found = index->real_names.find(UpperCased(FromUtf8(name)));
   if (found == index->real_names.end()) return std::nullopt;
   return found->second;
 }
 
-const DiskFiles::FolderIndex* DiskFiles::Index(const std::string& folder) {
+DiskFiles::FolderIndex* DiskFiles::CurrentIndex(const std::string& folder) {
   std::error_code error;
   const auto modified = std::filesystem::last_write_time(folder, error);
   if (error) return nullptr;
-  if (const auto held = indexes_.find(folder); held != indexes_.end() && held->second.modified == modified) {
-    return &held->second;
+  FolderIndex& index = indexes_[folder];
+  if (index.modified != modified) {
+    index = FolderIndex();
+    index.modified = modified;
   }
-  FolderIndex index{modified, {}};
+  return &index;
+}
+
+const DiskFiles::FolderIndex* DiskFiles::OrderedIndex(const std::string& folder) {
+  FolderIndex* index = CurrentIndex(folder);
+  if (index == nullptr || index->ordered) return index;
   const OpenFolder stream(::opendir(folder.c_str()));
   if (!stream) return nullptr;
+  index->entries.clear();
   while (const dirent* entry = ::readdir(stream.get())) {
-    index.real_names.emplace(UpperCased(FromUtf8(entry->d_name)), entry->d_name);
+    const bool is_file =
+        entry->d_type == DT_REG || (entry->d_type != DT_DIR && IsFile(folder + '/' + entry->d_name));
+    index->entries.push_back({entry->d_name, is_file});
   }
-  return &(indexes_[folder] = std::move(index));
+  // A file made within the grain of the folder's time would not show: what is that fresh is listed anew next time.
+  index->ordered = std::filesystem::file_time_type::clock::now() - index->modified > kFolderTimeGrain;
+  return index;
+}
+
+const DiskFiles::FolderIndex* DiskFiles::NamedIndex(const std::string& folder) {
+  FolderIndex* index = CurrentIndex(folder);
+  if (index == nullptr || index->named) return index;
+  if (OrderedIndex(folder) == nullptr) return nullptr;
+  index->real_names.clear();
+  for (const Entry& entry : index->entries) index->real_names.emplace(UpperCased(FromUtf8(entry.name)), entry.name);
+  index->named = index->ordered;
+  return index;
 }
 
 void DiskFiles::Remember(const std::string& folder, const std::string& name, bool folder_was_current) {
@@ -292,6 +326,7 @@ void DiskFiles::Remember(const std::string& folder, const std::string& name, boo
   std::error_code error;
   held->second.modified = std::filesystem::last_write_time(folder, error);
   held->second.real_names.emplace(UpperCased(FromUtf8(name)), name);
+  held->second.ordered = false;  // where the folder put it is not known
 }
 
 }  // namespace quixair

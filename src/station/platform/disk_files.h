@@ -36,9 +36,16 @@ class DiskFiles : public Files {
   const Drives& drives() const { return drives_; }
 
  private:
+  struct Entry {
+    std::string name;  // on the host
+    bool is_file = false;
+  };
   struct FolderIndex {
     std::filesystem::file_time_type modified;
+    std::vector<Entry> entries;  // in the folder's own order; empty when it is not known any more
+    bool ordered = false;
     std::unordered_map<std::string, std::string> real_names;  // by upper-cased name
+    bool named = false;
   };
   struct Place {
     std::string folder;  // on the host
@@ -49,8 +56,13 @@ class DiskFiles : public Files {
   Result<Place> Locate(std::string_view path);
   Result<std::string> HostFolder(std::string_view drive_and_folders);
   Result<std::string> Existing(const Place& place);
+  /// Folders are taken to be where they were found first; true when this one has gone and must be looked for again.
+  bool ForgetMissingFolder(const Place& place);
   std::optional<std::string> RealName(const std::string& folder, const std::string& name);
-  const FolderIndex* Index(const std::string& folder);
+  /// What is held of the folder while its modification time stands, else an empty index; none when it cannot be read.
+  FolderIndex* CurrentIndex(const std::string& folder);
+  const FolderIndex* OrderedIndex(const std::string& folder);
+  const FolderIndex* NamedIndex(const std::string& folder);
   void Remember(const std::string& folder, const std::string& name, bool folder_was_current);
   Status Put(std::string_view path, std::string_view bytes, int open_flags, Durability durability);
 

@@ -1,0 +1,134 @@
+#include "bench_station.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <stdexcept>
+
+#include "station/console/value_form.h"
+#include "station/library/recording_file.h"
+#include "station/platform/controls.h"
+#include "station/platform/screen.h"
+#include "station/platform/text.h"
+#include "station/templates/template_file.h"
+
+namespace quixair::bench {
+namespace {
+
+namespace fs = std::filesystem;
+
+void Put(const fs::path& path, std::string_view bytes) {
+  std::ofstream(path, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+}
+
+std::string Id(const char* pattern, int number) {
+  char id[16];
+  std::snprintf(id, sizeof id, pattern, number);
+  return id;
+}
+
+std::int32_t StandInLength(const fs::path& path) {
+  std::ifstream stream(path);
+  std::int32_t length = 0;
+  stream >> length;
+  return length;
+}
+
+}  // namespace
+
+RandomSettings TypicalSettings() {
+  RandomSettings settings;
+  settings.SongsPerLiner = 3;
+  settings.SongsPerBreak = 6;
+  settings.MaxSpotsPerBreak = 2;
+  settings.LinerEnable = 1;
+  settings.BreakType = break_type::kInternalRandom;
+  settings.BreakOpensWithLiner = 1;
+  settings.BreakClosesWithLiner = 1;
+  return settings;
+}
+
+BenchStation::BenchStation(int songs, int song_ms) {
+  std::string pattern = (fs::temp_directory_path() / "quixair-bench-XXXXXX").string();
+  if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
+  folder_ = pattern;
+  for (const char* name : {"QXAIR", "QXDATA", "QXTEMPLT", "QXTIME", "QXWAVE"})
+    fs::create_directories(folder_ / name);
+  const auto add = [this](const std::string& id, const std::string& record, int milliseconds) {
+    Put(folder_ / "QXDATA" / (id + ".DAT"), record);
+    Put(folder_ / "QXWAVE" / (id + ".wav"), std::to_string(milliseconds));
+  };
+  for (int i = 1; i <= songs; ++i) {
+    const std::string id = Id("M%05d", i);
+    add(id,
+        FormatRecord(
+            MusicRecord{"180", id, "C", "Artist of " + id, "Title of " + id, "A", "01-01-26", "2026"}),
+        song_ms);
+  }
+  for (int i = 1; i <= 14; ++i) {
+    const std::string id = i <= 10 ? Id("L%04d", i) : Id("LL%03d", i);
+    add(id, FormatRecord(LinerRecord{"5", id, "C", "Liner " + id, "A", "G", "01-01-26", ""}), 5000);
+  }
+  std::vector<TemplateEvent> rotation;
+  for (int i = 1; i <= 40; ++i) {
+    const std::string id = Id("S%04d", i);
+    const std::string product(1, static_cast<char>('A' + i % 20));
+    add(id,
+        FormatRecord(SpotRecord{"30", id, "C", "Account", "Spot " + id, "01-01-26", "", product, "A", "30"}),
+        30000);
+    rotation.push_back({id, "Spot"});
+  }
+  Put(folder_ / "QXTEMPLT" / "ROTATWIN.DTA", FormatTemplate(rotation));
+  Put(folder_ / "QXAIR" / "RANDDATA.DTA", FormatRandomSettings(TypicalSettings()));
+  Put(folder_ / "QXAIR" / "REGOCX.DTA", "1\r\n");
+  Put(folder_ / "QXAIR" / "SPOTDRST.DTA", "\"1\"\r\n");
+}
+
+BenchStation::~BenchStation() {
+  std::error_code ignored;
+  fs::remove_all(folder_, ignored);
+}
+
+std::unique_ptr<simulation::SimulatedStation> BenchStation::Start() const {
+  Drives drives;
+  drives.Set('C', folder_);
+  CivilTime evening;
+  evening.year = 2026;
+  evening.month = 11;
+  evening.day = 22;
+  evening.hour = 20;
+  evening.weekday = 0;
+  auto station = std::make_unique<simulation::SimulatedStation>(drives, evening, StandInLength, 1);
+  station->StartProgram();
+  return station;
+}
+
+std::vector<std::string> BenchStation::DataFiles() const {
+  std::vector<std::string> files;
+  for (const auto& entry : fs::directory_iterator(folder_ / "QXDATA")) {
+    if (entry.path().filename().string().front() == 'M') files.push_back(entry.path().string());
+  }
+  return files;
+}
+
+double PeakMebibytes() {
+  std::ifstream status("/proc/self/status");
+  for (std::string line; std::getline(status, line);) {
+    if (line.starts_with("VmHWM:")) return NumericValue(std::string_view(line).substr(6)) / 1024;
+  }
+  return 0;
+}
+
+void ResetPeakMemory() {
+  std::ofstream("/proc/self/clear_refs") << 5;
+}
+
+void OpenRandom(simulation::SimulatedStation& station) {
+  station.Do([&station] { station.platform().screens.Open("RandomForm1"); });
+}
+
+void PressStart(simulation::SimulatedStation& station) {
+  dynamic_cast<Button&>(*station.FindScreen("RandomForm1")->FindControl("Start")).Click();
+}
+
+}  // namespace quixair::bench
