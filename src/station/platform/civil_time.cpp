@@ -24,7 +24,7 @@ std::string Formatted(const char* pattern, Values... values) {
 }
 
 std::int64_t DaysOf(int year, int month, int day) {
-  using namespace std::chrono;
+  using std::chrono::sys_days;
   return sys_days{std::chrono::year{year} / month / day}.time_since_epoch().count();
 }
 
@@ -88,7 +88,7 @@ std::string DayName(const CivilTime& time) {
 }
 
 double SecondsSinceMidnight(const CivilTime& time) {
-  return time.hour * 3600 + time.minute * 60 + time.second + time.millisecond / 10 / 100.0;
+  return time.hour * 3600 + time.minute * 60 + time.second + (time.millisecond / 10) * 0.01;
 }
 
 std::optional<std::int64_t> CalendarDay(std::string_view month_day_year) {
@@ -108,11 +108,11 @@ std::optional<std::int64_t> CalendarDay(std::string_view month_day_year) {
 }
 
 CivilTime CivilFromMilliseconds(std::int64_t milliseconds) {
-  using namespace std::chrono;
-  const sys_time<std::chrono::milliseconds> moment{std::chrono::milliseconds{milliseconds}};
-  const sys_days date = floor<days>(moment);
-  const year_month_day fields{date};
-  const hh_mm_ss clock{moment - date};
+  using std::chrono::sys_days;
+  const std::chrono::sys_time<std::chrono::milliseconds> moment{std::chrono::milliseconds{milliseconds}};
+  const sys_days date = std::chrono::floor<std::chrono::days>(moment);
+  const std::chrono::year_month_day fields{date};
+  const std::chrono::hh_mm_ss clock{moment - date};
   CivilTime time;
   time.year = static_cast<int>(fields.year());
   time.month = static_cast<int>(static_cast<unsigned>(fields.month()));
@@ -121,13 +121,13 @@ CivilTime CivilFromMilliseconds(std::int64_t milliseconds) {
   time.minute = static_cast<int>(clock.minutes().count());
   time.second = static_cast<int>(clock.seconds().count());
   time.millisecond = static_cast<int>(clock.subseconds().count());
-  time.weekday = static_cast<int>(weekday{date}.c_encoding());
+  time.weekday = static_cast<int>(std::chrono::weekday{date}.c_encoding());
   return time;
 }
 
 std::int64_t MillisecondsFromCivil(const CivilTime& time) {
   const std::int64_t seconds =
-      DaysOf(time.year, time.month, time.day) * 86400 + time.hour * 3600 + time.minute * 60 + time.second;
+      DaysOf(time.year, time.month, time.day) * 86400 + time.hour * 3600LL + time.minute * 60LL + time.second;
   return seconds * 1000 + time.millisecond;
 }
 

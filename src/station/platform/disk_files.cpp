@@ -245,9 +245,9 @@ Result<std::string> DiskFiles::HostFolder(std::string_view drive_and_folders) {
     if (part.empty()) continue;
     if (part == "..") return RunTimeError::kBadFileName;
     if (IsFolder(host + '/' + part)) {
-      host += '/' + part;
+      host.append(1, '/').append(part);
     } else if (const auto real = RealName(host, part); real && IsFolder(host + '/' + *real)) {
-      host += '/' + *real;
+      host.append(1, '/').append(*real);
     } else {
       return RunTimeError::kPathNotFound;
     }
