@@ -1,3 +1,63 @@
-int main() {
-  return 0;
+// The on-air program: makes everything that a station needs, hands it on by reference, opens the console and
+// waits.
+
+#include <QApplication>
+
+#include "desktop/host_programs.h"
+#include "desktop/main_frame.h"
+#include "desktop/program_icon.h"
+#include "desktop/program_table.h"
+#include "desktop/qt_dialogs.h"
+#include "desktop/qt_timers.h"
+#include "desktop/termination_signals.h"
+#include "desktop/theme.h"
+#include "sound/sound_system.h"
+#include "station/platform/disk_files.h"
+#include "station/platform/drives.h"
+#include "station/platform/engine_random.h"
+#include "station/platform/event_gate.h"
+#include "station/platform/platform.h"
+#include "station/platform/screen_registry.h"
+#include "station/platform/system_clock.h"
+#include "station/screen_catalogue.h"
+
+int main(int argc, char** argv) {
+  using namespace quixair;
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Quixair"));
+  QApplication::setWindowIcon(desktop::ProgramIcon());
+  QApplication::setQuitOnLastWindowClosed(false);  // the console is hidden while the splash shows
+
+  const std::filesystem::path configuration = ConfigurationFolder();
+  DiskFiles files(Drives::Load(configuration / "drives.conf", HomeFolder()));
+  SystemClock clock;
+  EngineRandom random;
+  desktop::QtTimers timers;
+  desktop::QtDialogs dialogs;
+  EventGate gate(dialogs);
+  dialogs.Attach(gate);
+  desktop::HostPrograms programs(desktop::ProgramTable::Load(configuration / "programs.conf", HomeFolder()),
+                                 files, dialogs);
+  sound::SoundSystem sound;
+  ScreenRegistry screens(StationScreens());
+  const Platform platform{clock, timers, files, sound, dialogs, programs, random, screens, gate};
+  screens.Attach(platform);
+
+  desktop::ThemeSwitch theme(application, configuration / "desktop.conf");
+  desktop::MainFrame frame(platform, theme);
+  dialogs.set_parent(&frame);
+  screens.set_observer(&frame);
+
+  gate.on_fault = [](const std::string& what) { qWarning("an event was lost: %s", what.c_str()); };
+  gate.on_end = [&dialogs](int exit_code) {
+    dialogs.CloseAll();
+    QApplication::exit(exit_code);
+  };
+  const desktop::TerminationSignals session_end([&gate] { gate.Enter([] { EndProgram(); }); });
+
+  gate.Enter([&screens] { screens.Open("Console"); });
+  if (!gate.ended()) QApplication::exec();
+  screens.CloseAll();
+  screens.set_observer(nullptr);
+  return gate.exit_code();
 }

@@ -71,7 +71,7 @@ void VirtualTime::Advance(std::chrono::milliseconds span) {
     timer->Fire();
     if (interrupted && interrupted()) return;
   }
-  now_ = end;
+  now_ = std::max(now_, end);  // a tick that held a box open may have passed it
 }
 
 void VirtualTime::AdvanceUntil(int hour, int minute, int second) {

@@ -145,7 +145,9 @@ void ListBox::AddRow(std::string row) {
     rows_.push_back(std::move(row));
   } else {
     const auto before = [](const std::string& a, const std::string& b) { return LessIgnoringCase(a, b); };
-    rows_.insert(std::upper_bound(rows_.begin(), rows_.end(), row, before), std::move(row));
+    const auto place = std::upper_bound(rows_.begin(), rows_.end(), row, before);
+    for (int& selected : selected_) selected += selected >= place - rows_.begin() ? 1 : 0;  // the same row stays
+    rows_.insert(place, std::move(row));
   }
   Changed(Aspect::kRows);
 }
@@ -252,10 +254,9 @@ Timer::Timer(ControlOwner& owner, std::string name)
       shots_(screen().platform().timers.MakeTimer([this] { Tick(); })) {}
 
 void Timer::SetInterval(std::chrono::milliseconds interval) {
-  if (std::exchange(interval_, interval) != interval) {
-    running_ = false;
-    Apply();
-  }
+  if (std::exchange(interval_, interval) == interval) return;
+  if (std::exchange(running_, false)) shots_->Stop();
+  Apply();
 }
 
 void Timer::SetEnabled(bool enabled) {
@@ -275,9 +276,14 @@ void Timer::Apply() {
 
 void Timer::Tick() {
   if (in_tick_ || !on_tick) return;  // a tick that waits in a box is not entered a second time
-  in_tick_ = true;
-  screen().platform().gate.Enter(on_tick);
-  in_tick_ = false;
+  screen().platform().gate.Enter([this] {
+    struct InTick {
+      explicit InTick(bool& flag) : flag_(flag) { flag_ = true; }
+      ~InTick() { flag_ = false; }  // here, since behind the gate a screen unloaded by its own tick is gone
+      bool& flag_;
+    } const in_tick(in_tick_);
+    on_tick();
+  });
 }
 
 MediaControl::MediaControl(ControlOwner& owner, std::string name, int number)

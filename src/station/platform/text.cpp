@@ -159,11 +159,14 @@ std::string FromUtf8(std::string_view utf8) {
       continue;
     }
     const int more = first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : first >= 0xC0 ? 1 : 0;
-    char32_t point = more == 0 ? 0xFFFD : static_cast<char32_t>(first & (0x3F >> more));
-    for (int k = 0; k < more && i < utf8.size() && (Byte(utf8[i]) & 0xC0) == 0x80; ++k) {
+    char32_t point = static_cast<char32_t>(first & (0x3F >> more));
+    int read = 0;
+    for (; read < more && i < utf8.size() && (Byte(utf8[i]) & 0xC0) == 0x80; ++read) {
       point = (point << 6) | (Byte(utf8[i++]) & 0x3FU);
     }
-    out.push_back(FromCodePoint(point));
+    // Bytes that are no UTF-8, as in a name that another system wrote, must not turn into other characters.
+    const bool whole = more > 0 && read == more && point >= 0x80;
+    out.push_back(whole ? FromCodePoint(point) : '?');
   }
   return out;
 }

@@ -1,0 +1,28 @@
+#pragma once
+
+// Access keys of the screen in front come before those of the menu bar: "&Pause" and "&PickList Playback"
+// share a letter, and ALT+P belongs to the operator at the air. The toolkit by itself would see two equals
+// and press neither.
+
+#include <QObject>
+
+class QAbstractButton;
+class QKeyEvent;
+class QMdiArea;
+
+namespace quixair::desktop {
+
+class AccessKeys : public QObject {
+ public:
+  /// `area` outlives this. Follows the whole application from now on.
+  explicit AccessKeys(QMdiArea& area);
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  /// The button of the screen in front that a person may press by this key now.
+  QAbstractButton* ButtonFor(const QKeyEvent& key) const;
+
+  QMdiArea& area_;
+};
+
+}  // namespace quixair::desktop

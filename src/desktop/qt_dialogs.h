@@ -1,0 +1,43 @@
+#pragma once
+
+// The boxes that an operator answers, as windows of the desktop. While one is open the event loop runs on,
+// and with it the timers and the air. When the program ends meanwhile, the open boxes close and leave the
+// event that asked for them.
+
+#include <QPointer>
+#include <vector>
+
+#include "station/platform/dialogs.h"
+
+class QDialog;
+class QWidget;
+
+namespace quixair {
+class EventGate;
+}
+
+namespace quixair::desktop {
+
+class QtDialogs : public Dialogs {
+ public:
+  /// Before the first box. The gate is made with a reference to this, so it cannot be handed over earlier.
+  void Attach(EventGate& gate) { gate_ = &gate; }
+  /// The window over which boxes open; none is the middle of the display.
+  void set_parent(QWidget* parent) { parent_ = parent; }
+
+  Answer MessageBox(std::string_view text, int style, std::string_view title) override;
+  std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
+
+  /// At the program's end.
+  void CloseAll();
+
+ private:
+  int Run(QDialog& box);
+  QWidget* Over() const;
+
+  EventGate* gate_ = nullptr;
+  QPointer<QWidget> parent_;
+  std::vector<QDialog*> open_;
+};
+
+}  // namespace quixair::desktop

@@ -1,0 +1,70 @@
+#pragma once
+
+// The view of a station's list box: a list view that reads its rows straight from the control, so that ten
+// thousand rows cost one reset and the painting of those in sight. It tells a person's choices apart from its
+// own changes: only the former reach the functions below. Class "QListView" in a form makes one. The binder
+// owns the tie to the control.
+
+#include <QAbstractListModel>
+#include <QListView>
+#include <functional>
+#include <vector>
+
+namespace quixair {
+class ListBox;
+}
+
+namespace quixair::desktop {
+
+/// The rows of a list box as they were at the last Reset; texts are converted when they are looked at.
+class ListRows : public QAbstractListModel {
+ public:
+  explicit ListRows(QObject* parent) : QAbstractListModel(parent) {}
+  /// None empties the view for good.
+  void SetSource(const ListBox* source);
+  /// One signal to the view, however many rows changed.
+  void Reset();
+  QSize row_size() const { return row_size_; }
+  void SetFontMetrics(const QFontMetrics& metrics);
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+
+ private:
+  const ListBox* source_ = nullptr;
+  int row_count_ = 0;
+  int letter_width_ = 8;
+  QSize row_size_{0, 18};
+};
+
+class RowList : public QListView {
+ public:
+  explicit RowList(QWidget* parent = nullptr);
+
+  ListRows& list_rows() { return rows_; }
+  /// Shows the rows anew without losing the place; a list with the form's property "followsEnd" keeps its end
+  /// in sight.
+  void ResetRows();
+  void ShowSelection(const std::vector<int>& rows);
+
+  std::function<void(std::vector<int> rows)> on_select;
+  std::function<void()> on_double_click;
+  std::function<void()> on_enter;
+
+ protected:
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  std::vector<int> SelectedRows() const;
+  void TellSelection();
+
+  ListRows rows_;
+  bool release_of_double_click_ = false;
+};
+
+}  // namespace quixair::desktop

@@ -1,0 +1,26 @@
+#include "desktop/views/air_view.h"
+
+#include "station/platform/screen.h"
+
+namespace quixair::desktop {
+
+AirView::AirView(QWidget* parent, int looks_per_second) : QWidget(parent) {
+  timer_.setInterval(1000 / looks_per_second);
+  QObject::connect(&timer_, &QTimer::timeout, this, [this] {
+    if (followed_ != nullptr && isVisible()) Look(*followed_);
+  });
+}
+
+void AirView::Follow(Screen& screen) {
+  followed_ = dynamic_cast<OnAirScreen*>(&screen);
+  if (followed_ == nullptr) return;
+  timer_.start();
+  Look(*followed_);
+}
+
+void AirView::Leave() {
+  timer_.stop();
+  followed_ = nullptr;
+}
+
+}  // namespace quixair::desktop

@@ -1,0 +1,274 @@
+#include "desktop/binder.h"
+
+#include <gmock/gmock.h>
+
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+
+#include "desktop/sample_screen.h"
+#include "support/station_fixture.h"
+
+namespace quixair::testing {
+namespace {
+
+class BinderTest : public StationFixture {
+ protected:
+  void SetUp() override {
+    station_.StartProgram();
+    screen_ = std::make_unique<SampleScreen>(station_.platform());
+  }
+  /// Ties the screen as it is now and shows the form.
+  void Bind() {
+    binder_ = std::make_unique<desktop::Binder>(*screen_, form_.root);
+    screen_->set_observer(binder_.get());
+    form_.root.show();
+    QCoreApplication::processEvents();
+  }
+  void ClickRow(int row) {
+    const QRect place = form_.list->visualRect(form_.list->model()->index(row, 0));
+    QTest::mouseClick(form_.list->viewport(), Qt::LeftButton, {}, place.center());
+  }
+
+  SampleForm form_;
+  std::unique_ptr<SampleScreen> screen_;
+  std::unique_ptr<desktop::Binder> binder_;
+};
+
+TEST_F(BinderTest, ClickOnButton_ReachesItsControl) {
+  int clicks = 0;
+  screen_->Command1.on_click = [&clicks] { ++clicks; };
+  Bind();
+  QTest::mouseClick(form_.button, Qt::LeftButton);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(BinderTest, AccentedText_ShowsAsUnicode) {
+  Bind();
+  screen_->Label1.SetCaption("Caf\xE9 \x80 5 & more");
+  binder_->Flush();
+  EXPECT_EQ(form_.label->text(), QStringLiteral("Café € 5 & more"));
+}
+
+TEST_F(BinderTest, TypedAccent_ReachesTheControlInItsCodePage) {
+  Bind();
+  QTest::keyClicks(form_.line, QStringLiteral("ca"));
+  QTest::sendKeyEvent(QTest::Click, form_.line, Qt::Key_unknown, QStringLiteral("é"), Qt::NoModifier);
+  EXPECT_EQ(screen_->Text1.text(), "ca\xE9");
+}
+
+TEST_F(BinderTest, ButtonCaption_BreaksAtRunsOfBlanks) {
+  Bind();
+  screen_->Command1.SetCaption("   Re-&Queue           Current");
+  binder_->Flush();
+  EXPECT_EQ(form_.button->text(), QStringLiteral("Re-&Queue\nCurrent"));
+}
+
+TEST_F(BinderTest, TenThousandRows_AreOneReset) {
+  Bind();
+  QSignalSpy resets(form_.list->model(), &QAbstractItemModel::modelReset);
+  QSignalSpy inserted(form_.list->model(), &QAbstractItemModel::rowsInserted);
+  for (int i = 0; i < 10000; ++i) screen_->List1.AddRow("row " + std::to_string(i));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(resets.count(), 1);
+  EXPECT_EQ(inserted.count(), 0);
+  EXPECT_EQ(form_.list->model()->rowCount(), 10000);
+  EXPECT_EQ(form_.list->model()->index(9999, 0).data().toString(), QStringLiteral("row 9999"));
+}
+
+TEST_F(BinderTest, ClickOnRow_SelectsItOnceInTheControl) {
+  for (const char* row : {"a", "b", "c"}) screen_->List1.AddRow(row);
+  int clicks = 0;
+  screen_->List1.on_click = [&clicks] { ++clicks; };
+  Bind();
+  ClickRow(1);
+  EXPECT_EQ(screen_->List1.selected_index(), 1);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(BinderTest, ArrowKey_SelectsTheNextRow) {
+  for (const char* row : {"a", "b", "c"}) screen_->List1.AddRow(row);
+  Bind();
+  ClickRow(0);
+  QTest::keyClick(form_.list, Qt::Key_Down);
+  EXPECT_EQ(screen_->List1.selected_text(), "b");
+}
+
+TEST_F(BinderTest, DoubleClickAndEnter_AreEventsOfTheirOwn) {
+  screen_->List1.AddRow("a");
+  std::string events;
+  screen_->List1.on_click = [&events] { events += "click "; };
+  screen_->List1.on_double_click = [&events] { events += "double "; };
+  screen_->List1.on_enter = [&events] { events += "enter "; };
+  Bind();
+  const QPoint place = form_.list->visualRect(form_.list->model()->index(0, 0)).center();
+  QTest::mouseClick(form_.list->viewport(), Qt::LeftButton, {}, place);
+  QTest::mouseDClick(form_.list->viewport(), Qt::LeftButton, {}, place);
+  EXPECT_THAT(events, ::testing::EndsWith("double ")) << "no click may follow a double click";
+  events.clear();
+  QTest::keyClick(form_.list, Qt::Key_Return);
+  EXPECT_EQ(events, "enter ");
+}
+
+TEST_F(BinderTest, SelectionByTheStation_ShowsAndRaisesNothing) {
+  for (const char* row : {"a", "b"}) screen_->List1.AddRow(row);
+  int clicks = 0;
+  screen_->List1.on_click = [&clicks] { ++clicks; };
+  Bind();
+  screen_->List1.Select(1);
+  binder_->Flush();
+  ASSERT_EQ(form_.list->selectionModel()->selectedIndexes().size(), 1);
+  EXPECT_EQ(form_.list->selectionModel()->selectedIndexes().front().row(), 1);
+  EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(BinderTest, SelectionOutlivesChangedRows) {
+  for (const char* row : {"a", "b"}) screen_->List1.AddRow(row);
+  Bind();
+  ClickRow(1);
+  screen_->List1.AddRow("c");
+  QCoreApplication::processEvents();
+  ASSERT_EQ(form_.list->selectionModel()->selectedIndexes().size(), 1);
+  EXPECT_EQ(form_.list->selectionModel()->selectedIndexes().front().row(), 1);
+}
+
+TEST_F(BinderTest, TickTakenBackByTheStation_ShowsUnticked) {
+  screen_->Check1.on_click = [this] { screen_->Check1.Tick(false); };
+  Bind();
+  QTest::mouseClick(form_.check, Qt::LeftButton, {}, QPoint(8, form_.check->height() / 2));
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(form_.check->isChecked());
+}
+
+TEST_F(BinderTest, TickWithoutObjection_Stays) {
+  Bind();
+  QTest::mouseClick(form_.check, Qt::LeftButton, {}, QPoint(8, form_.check->height() / 2));
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(screen_->Check1.ticked());
+  EXPECT_TRUE(form_.check->isChecked());
+}
+
+TEST_F(BinderTest, OptionsFollowTheStation_AndCanAllBeClear) {
+  Bind();
+  QTest::mouseClick(form_.second, Qt::LeftButton, {}, QPoint(8, form_.second->height() / 2));
+  EXPECT_TRUE(screen_->Option2.selected());
+  screen_->Option2.Select(false);
+  binder_->Flush();
+  EXPECT_FALSE(form_.second->isChecked());
+}
+
+TEST_F(BinderTest, KeyIsReplacedOrRefusedByTheControl) {
+  screen_->Text1.on_key_press = [](char& key) {
+    if (key == '"') key = 0;
+    if (key == 'a') key = 'A';
+  };
+  Bind();
+  QTest::keyClicks(form_.line, QStringLiteral("\"ab\""));
+  EXPECT_EQ(screen_->Text1.text(), "Ab");
+  EXPECT_EQ(form_.line->text(), QStringLiteral("Ab"));
+}
+
+TEST_F(BinderTest, EditInTheMiddle_ReachesTheControl) {
+  screen_->Text1.SetText("ac");
+  Bind();
+  form_.line->setCursorPosition(1);
+  QTest::keyClicks(form_.line, QStringLiteral("b"));
+  EXPECT_EQ(screen_->Text1.text(), "abc");
+}
+
+TEST_F(BinderTest, SeveralLines_AreDividedAsOnTheOldPc) {
+  Bind();
+  form_.page->setPlainText(QStringLiteral("one\ntwo"));
+  EXPECT_EQ(screen_->Text2.text(), "one\r\ntwo");
+}
+
+TEST_F(BinderTest, StatusLine_CannotBeTypedInAndLosesItsLeadingBlanks) {
+  Bind();
+  screen_->Status.SetText(std::string(50, ' ') + "Digital Audio");
+  binder_->Flush();
+  EXPECT_EQ(form_.status->text(), QStringLiteral("Digital Audio"));
+  QTest::keyClicks(form_.status, QStringLiteral("x"));
+  EXPECT_EQ(screen_->Status.text(), std::string(50, ' ') + "Digital Audio");
+}
+
+TEST_F(BinderTest, YellowGround_HasBlackText) {
+  screen_->Status.SetBackColor(kYellow);
+  Bind();
+  form_.status->ensurePolished();
+  EXPECT_EQ(form_.status->palette().color(QPalette::Base), QColor(0xFF, 0xFF, 0x00));
+  EXPECT_EQ(form_.status->palette().color(QPalette::Text), QColor(Qt::black));
+}
+
+TEST_F(BinderTest, HiddenAndDisabledControls_ShowSo) {
+  Bind();
+  screen_->Frame1.Hide();
+  screen_->Command1.Disable();
+  binder_->Flush();
+  EXPECT_FALSE(form_.first->isVisible());
+  EXPECT_FALSE(form_.button->isEnabled());
+}
+
+TEST_F(BinderTest, FocusFollowsTheStation) {
+  Bind();
+  form_.root.activateWindow();
+  screen_->Check1.SetFocus();
+  binder_->Flush();
+  EXPECT_EQ(form_.root.focusWidget(), form_.check);
+}
+
+TEST_F(BinderTest, ClickOnFrame_ReachesIt) {
+  int clicks = 0;
+  screen_->Frame1.on_click = [&clicks] { ++clicks; };
+  Bind();
+  QTest::mouseClick(form_.frame, Qt::LeftButton, {},
+                    QPoint(form_.frame->width() - 5, form_.frame->height() - 3));
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(BinderTest, TransportBar_RaisesPlayAndPause) {
+  std::string events;
+  screen_->MMControl1.on_play_click = [&events] { events += "play "; };
+  screen_->MMControl1.on_pause_click = [&events] { events += "pause "; };
+  Bind();
+  QTest::mouseClick(&form_.bar->play_button(), Qt::LeftButton);
+  QTest::mouseClick(&form_.bar->pause_button(), Qt::LeftButton);
+  EXPECT_EQ(events, "play pause ");
+}
+
+TEST_F(BinderTest, Repaint_ShowsInTheMiddleOfAStep) {
+  QString shown;
+  screen_->Command1.on_click = [this, &shown] {
+    screen_->Label1.SetCaption("half way");
+    screen_->Repaint();
+    shown = form_.label->text();
+  };
+  Bind();
+  QTest::mouseClick(form_.button, Qt::LeftButton);
+  EXPECT_EQ(shown, QStringLiteral("half way"));
+}
+
+TEST_F(BinderTest, ScreenIsGone_NothingReachesIt) {
+  screen_->List1.AddRow("a");
+  Bind();
+  screen_->set_observer(nullptr);
+  binder_->Leave();
+  screen_.reset();
+  QTest::mouseClick(form_.button, Qt::LeftButton);
+  QTest::keyClicks(form_.line, QStringLiteral("x"));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(form_.list->model()->rowCount(), 0);
+}
+
+TEST_F(BinderTest, ClickThatTakesItsScreenAway_IsSurvived) {
+  screen_->Command1.on_click = [this] {
+    screen_->set_observer(nullptr);
+    binder_->Leave();
+  };
+  Bind();
+  QTest::mouseClick(form_.button, Qt::LeftButton);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(form_.button->text(), QStringLiteral("&Press"));
+}
+
+}  // namespace
+}  // namespace quixair::testing

@@ -1,0 +1,152 @@
+#include "desktop/main_frame.h"
+
+#include <gmock/gmock.h>
+
+#include <QAction>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTest>
+
+#include "desktop/desktop_fixture.h"
+#include "desktop/row_list.h"
+
+namespace quixair::testing {
+namespace {
+
+class MainFrameTest : public DesktopFixture {
+ protected:
+  void SetUp() override {
+    PutFile("QXAIR/REGOCX.DTA", "1\r\n");
+    PutFile("QXAIR/CUSTOM.DTA", "\"Radio Caf\xE9\"\r\n");
+  }
+  void StartPastSplash() {
+    StartDesktop();
+    Advance(3s);
+    Rest();
+  }
+  QMdiSubWindow* WindowOf(std::string_view screen) {
+    return qobject_cast<QMdiSubWindow*>(Form(screen).parentWidget());
+  }
+};
+
+TEST_F(MainFrameTest, SplashIsShownFirst_TheFrameAfterIt) {
+  StartDesktop();
+  EXPECT_FALSE(frame_->isVisible());
+  EXPECT_TRUE(Form("frmSplash").isVisible());
+  Advance(3s);
+  Rest();
+  EXPECT_TRUE(frame_->isVisible());
+  EXPECT_FALSE(IsOpen("frmSplash"));
+}
+
+TEST_F(MainFrameTest, KeyTakesTheSplashAway) {
+  StartDesktop();
+  Form("frmSplash").activateWindow();
+  Widget<QWidget>("frmSplash", "Frame1").setFocus();
+  QTest::keyClick(&Widget<QWidget>("frmSplash", "Frame1"), Qt::Key_Space);
+  EXPECT_FALSE(IsOpen("frmSplash"));
+}
+
+TEST_F(MainFrameTest, TitleNamesTheStation) {
+  StartPastSplash();
+  EXPECT_EQ(frame_->windowTitle(), QStringLiteral("Quixair 4   Radio Café"));
+}
+
+TEST_F(MainFrameTest, MenuBarShowsTheConsolesTree) {
+  StartPastSplash();
+  const QList<QAction*> top = frame_->menuBar()->actions();
+  ASSERT_FALSE(top.isEmpty());
+  EXPECT_EQ(top.front()->text(), QStringLiteral("&File"));
+  EXPECT_FALSE(frame_->findChild<QAction*>(QStringLiteral("ResumeLastPick"))->isVisible());
+  EXPECT_TRUE(frame_->findChild<QAction*>(QStringLiteral("EditTemplate"))->isVisible());
+}
+
+TEST_F(MainFrameTest, MenuOpensAScreenAsAChild) {
+  StartPastSplash();
+  ChooseMenu("SetRandomDefaults");
+  ASSERT_NE(WindowOf("RandomSetup"), nullptr);
+  EXPECT_TRUE(Form("RandomSetup").isVisible());
+  EXPECT_EQ(WindowOf("RandomSetup")->windowTitle(), QStringLiteral("Random Playback Setup"));
+  EXPECT_EQ(Widget<desktop::RowList>("RandomSetup", "List5").model()->rowCount(), 3);
+}
+
+TEST_F(MainFrameTest, ScreenThatIsNotBuilt_SaysSo) {
+  StartPastSplash();
+  ChooseMenu("About");
+  EXPECT_THAT(Widget<QLabel>("NotBuilt", "Label1").text().toStdString(), ::testing::HasSubstr("frmAbout"));
+  QTest::mouseClick(&Widget<QPushButton>("NotBuilt", "Command1"), Qt::LeftButton);
+  EXPECT_FALSE(IsOpen("NotBuilt"));
+}
+
+TEST_F(MainFrameTest, ClosingAChild_UnloadsItsScreen) {
+  StartPastSplash();
+  ChooseMenu("ViewErrorLog");
+  WindowOf("ErrorLog")->close();
+  EXPECT_FALSE(IsOpen("ErrorLog"));
+  Rest();
+  ChooseMenu("ViewErrorLog");
+  EXPECT_TRUE(Form("ErrorLog").isVisible()) << "a screen can be opened again after its window was closed";
+}
+
+TEST_F(MainFrameTest, ClosingTheFrame_EndsTheProgramInOrder) {
+  StartPastSplash();
+  PutFile("QXAIR/RESET.DTA", "\"1\"\r\n\"RANDOM\"\r\n\"\"\r\n\"\"\r\n");
+  frame_->close();
+  EXPECT_FALSE(station_.running());
+  EXPECT_TRUE(frame_->isVisible()) << "the toolkit does not close it by itself";
+  EXPECT_EQ(FileText("QXAIR/RESET.DTA").substr(0, 3), "\"0\"");
+}
+
+class OnAirWindow : public MainFrameTest {
+ protected:
+  void SetUp() override {
+    MainFrameTest::SetUp();
+    AddLibrary(6, 3, 2);
+    StartPastSplash();
+    ChooseMenu("RandomPlaybackMode");
+    Rest();
+  }
+  void Press(const char* button) {
+    QTest::mouseClick(&Widget<QPushButton>("RandomForm1", button), Qt::LeftButton);
+    Rest();
+  }
+};
+
+TEST_F(OnAirWindow, OpensOverTheWholeFrame) {
+  EXPECT_TRUE(WindowOf("RandomForm1")->isMaximized());
+}
+
+TEST_F(OnAirWindow, StartGoesOnTheAir_AndTheScreenTellsIt) {
+  EXPECT_FALSE(Widget<QPushButton>("RandomForm1", "PauseCommand").isVisible());
+  Press("Start");
+  ASSERT_EQ(aired().size(), 1U);
+  Advance(1s);
+  Rest();
+  EXPECT_FALSE(Widget<QPushButton>("RandomForm1", "Start").isVisible());
+  EXPECT_TRUE(Widget<QPushButton>("RandomForm1", "PauseCommand").isVisible());
+  EXPECT_THAT(Widget<QLabel>("RandomForm1", "CurrLabel_0").text().toStdString(),
+              ::testing::HasSubstr(aired().front().id));
+}
+
+TEST_F(OnAirWindow, AccessKeyOfTheScreen_ComesBeforeTheMenus) {
+  Press("Start");
+  frame_->activateWindow();
+  Widget<QPushButton>("RandomForm1", "EndRunCommand").setFocus();
+  QTest::keyClick(&Widget<QPushButton>("RandomForm1", "EndRunCommand"), Qt::Key_P, Qt::AltModifier);
+  Rest();
+  EXPECT_FALSE(Widget<QPushButton>("RandomForm1", "PauseCommand").isEnabled())
+      << "ALT+P pauses, it opens no menu";
+}
+
+TEST_F(OnAirWindow, EndRun_TakesTheWindowAway) {
+  Press("Start");
+  Press("EndRunCommand");
+  EXPECT_FALSE(IsOpen("RandomForm1"));
+  EXPECT_TRUE(frame_->findChild<QMdiArea*>()->subWindowList().isEmpty());
+}
+
+}  // namespace
+}  // namespace quixair::testing

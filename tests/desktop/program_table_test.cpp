@@ -1,0 +1,132 @@
+#include "desktop/program_table.h"
+
+#include <gmock/gmock.h>
+
+#include "desktop/host_programs.h"
+#include "simulation/scripted_dialogs.h"
+#include "support/station_fixture.h"
+
+namespace quixair::testing {
+namespace {
+
+using desktop::CommandLine;
+using desktop::HostCommand;
+using desktop::ProgramTable;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+TEST(CommandLines, PathEndsBehindTheProgram_BlanksOrNot) {
+  struct Case {
+    const char* line;
+    const char* path;
+    std::vector<std::string> arguments;
+  };
+  const std::vector<Case> cases = {
+      {"C:\\WINDOWS\\sndvol32.exe", "C:\\WINDOWS\\sndvol32.exe", {}},
+      {"C:\\Progra~1\\XG-GS Enhanced Mixer\\AMIX95.EXE",
+       "C:\\Progra~1\\XG-GS Enhanced Mixer\\AMIX95.EXE",
+       {}},
+      {"C:\\Program Files\\Accessories\\wordpad.exe C:\\QXAIR\\QXERROR.LOG",
+       "C:\\Program Files\\Accessories\\wordpad.exe",
+       {"C:\\QXAIR\\QXERROR.LOG"}},
+      {"\"C:\\Program Files\\a b.exe\" \"two words\" three",
+       "C:\\Program Files\\a b.exe",
+       {"two words", "three"}},
+      {"C:\\MY.EXEC\\RUN.COM now", "C:\\MY.EXEC\\RUN.COM", {"now"}},
+      {"notepad file.txt", "notepad", {"file.txt"}},
+      {"", "", {}},
+  };
+  for (const Case& each : cases) {
+    const CommandLine split = desktop::SplitCommandLine(each.line);
+    EXPECT_EQ(split.path, each.path) << each.line;
+    EXPECT_EQ(split.arguments, each.arguments) << each.line;
+  }
+}
+
+TEST(ProgramTables, LinesNameCommandsInTheOrderToTry) {
+  const ProgramTable table = ProgramTable::Parse(
+      "# comment\r\n"
+      "MIXER.EXE = first -a \"b c\" | second   # and why\r\n"
+      "folder.exe=xdg-open ~ ~/Music\n"
+      "NONE.EXE =\n"
+      "no entry\n",
+      "/home/op");
+  EXPECT_THAT(*table.Find("mixer.exe"),
+              ElementsAre(HostCommand{"first", "-a", "b c"}, HostCommand{"second"}));
+  EXPECT_THAT(*table.Find("FOLDER.EXE"), ElementsAre(HostCommand{"xdg-open", "/home/op", "/home/op/Music"}));
+  EXPECT_THAT(*table.Find("NONE.EXE"), IsEmpty());
+  EXPECT_FALSE(table.Find("OTHER.EXE").has_value());
+}
+
+TEST(ProgramTables, DefaultsKnowEveryProgramOfTheMenu) {
+  const ProgramTable table = ProgramTable::Parse(ProgramTable::Defaults(), "/home/op");
+  for (const char* name : {"SNDREC32.EXE", "sndvol32.exe", "EXPLORER.EXE", "Control.exe", "wordpad.exe",
+                           "AMIX95.EXE", "LOGTRIM.EXE", "VOLWATCH.EXE", "BRKCOUNT.EXE", "CONSOLE.EXE",
+                           "VOXPLAN.EXE", "LINKPLAN.EXE", "FEEDOPTS.EXE", "MMREGOCX.EXE"}) {
+    EXPECT_TRUE(table.Find(name).has_value()) << name;
+  }
+  EXPECT_THAT(*table.Find("MMREGOCX.EXE"), IsEmpty());
+}
+
+TEST(ProgramTables, MissingFile_IsMadeAndMeansTheDefaults) {
+  const TemporaryFolder folder;
+  const std::filesystem::path file = folder.path() / "quixair" / "programs.conf";
+  EXPECT_TRUE(ProgramTable::Load(file, "/home/op").Find("WORDPAD.EXE").has_value());
+  EXPECT_EQ(ReadHostFile(file), ProgramTable::Defaults());
+  WriteHostFile(file, "A.EXE = a\n");
+  EXPECT_FALSE(ProgramTable::Load(file, "/home/op").Find("WORDPAD.EXE").has_value());
+}
+
+TEST(HostWordsTest, StationPathsBecomePathsOfTheHost) {
+  const auto host = [](std::string_view path) -> std::optional<std::filesystem::path> {
+    if (path == "C:\\QXAIR\\QXERROR.LOG") return "/station/QXAIR/qxerror.log";
+    if (path == "C:\\QXAIR\\VOXPLAN.EXE") return "/station/QXAIR/VOXPLAN.EXE";
+    return std::nullopt;
+  };
+  EXPECT_EQ(desktop::HostWords({"edit", "-x"}, {"wordpad.exe", {"C:\\QXAIR\\QXERROR.LOG", "/p"}}, host),
+            (HostCommand{"edit", "-x", "/station/QXAIR/qxerror.log", "/p"}));
+  EXPECT_EQ(desktop::HostWords({"dosbox", "%program"}, {"C:\\QXAIR\\VOXPLAN.EXE", {}}, host),
+            (HostCommand{"dosbox", "/station/QXAIR/VOXPLAN.EXE"}));
+  EXPECT_EQ(desktop::HostWords({"dosbox", "%program"}, {"C:\\QXAIR\\GONE.EXE", {}}, host), std::nullopt);
+}
+
+class HostProgramsTest : public StationFixture {
+ protected:
+  void Run(std::string_view table, std::string_view command_line) {
+    desktop::HostPrograms(ProgramTable::Parse(table, "/"), station_.files(), dialogs_)
+        .Run(command_line, WindowState::kNormal);
+  }
+  simulation::ScriptedDialogs dialogs_;
+};
+
+TEST_F(HostProgramsTest, NothingToDo_SucceedsInSilence) {
+  Run("MMREGOCX.EXE =", "C:\\Windows\\System\\MMREGOCX.EXE MMTypesX.OCX MMWaveX.OCX");
+  EXPECT_THAT(dialogs_.shown(), IsEmpty());
+}
+
+TEST_F(HostProgramsTest, ProgramThatIsNotInstalled_IsTold) {
+  Run("A.EXE = no-such-program-here | nor-this-one", "C:\\WINDOWS\\A.EXE");
+  ASSERT_EQ(dialogs_.shown().size(), 1U);
+  EXPECT_THAT(dialogs_.shown().front().text, HasSubstr("C:\\WINDOWS\\A.EXE"));
+}
+
+TEST_F(HostProgramsTest, ProgramThatIsNotInTheTable_IsTold) {
+  Run("", "C:\\WINDOWS\\B.EXE");
+  EXPECT_EQ(dialogs_.shown().size(), 1U);
+}
+
+TEST_F(HostProgramsTest, FileThatIsNotThere_IsToldAndNothingStarts) {
+  Run("EDIT.EXE = true", "EDIT.EXE C:\\QXAIR\\QXERROR.LOG");
+  ASSERT_EQ(dialogs_.shown().size(), 1U);
+  EXPECT_THAT(dialogs_.shown().front().text, HasSubstr("C:\\QXAIR\\QXERROR.LOG"));
+}
+
+TEST_F(HostProgramsTest, FirstInstalledProgram_IsStarted) {
+  PutFile("QXAIR/QXERROR.LOG", "line\r\n");
+  Run("EDIT.EXE = no-such-program-here | true", "EDIT.EXE C:\\QXAIR\\QXERROR.LOG");
+  EXPECT_THAT(dialogs_.shown(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace quixair::testing

@@ -1,0 +1,93 @@
+#include "desktop/qt_dialogs.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+#include "station/platform/event_gate.h"
+
+namespace quixair::testing {
+namespace {
+
+class QtDialogsTest : public ::testing::Test {
+ protected:
+  QtDialogsTest() { dialogs_.Attach(gate_); }
+  /// Runs `act` while the next box is open.
+  template <class Box>
+  static void WhenOpen(std::function<void(Box&)> act) {
+    QTimer::singleShot(0, [act = std::move(act)] {
+      auto* box = qobject_cast<Box*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr) << "no box is open";
+      act(*box);
+    });
+  }
+
+  desktop::QtDialogs dialogs_;
+  EventGate gate_{dialogs_};
+};
+
+TEST_F(QtDialogsTest, StyleDecidesTheButtonsAndThePicture) {
+  struct Case {
+    int style;
+    QMessageBox::StandardButton press;
+    QMessageBox::Icon icon;
+    Answer answer;
+  };
+  for (const Case& each : {Case{64, QMessageBox::Ok, QMessageBox::Information, Answer::kOk},
+                           Case{33, QMessageBox::Cancel, QMessageBox::Question, Answer::kCancel},
+                           Case{33, QMessageBox::Ok, QMessageBox::Question, Answer::kOk},
+                           Case{52, QMessageBox::Yes, QMessageBox::Warning, Answer::kYes},
+                           Case{3, QMessageBox::No, QMessageBox::NoIcon, Answer::kNo},
+                           Case{16, QMessageBox::Ok, QMessageBox::Critical, Answer::kOk}}) {
+    WhenOpen<QMessageBox>([&each](QMessageBox& box) {
+      EXPECT_EQ(box.icon(), each.icon);
+      ASSERT_NE(box.button(each.press), nullptr) << "style " << each.style;
+      box.button(each.press)->click();
+    });
+    EXPECT_EQ(dialogs_.MessageBox("Text", each.style, "Title"), each.answer) << "style " << each.style;
+  }
+}
+
+TEST_F(QtDialogsTest, TextIsPlainAndOfTheStationsCodePage) {
+  WhenOpen<QMessageBox>([](QMessageBox& box) {
+    EXPECT_EQ(box.text(), QStringLiteral("<b>Café</b>\nline two"));
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
+    box.accept();
+  });
+  dialogs_.MessageBox("<b>Caf\xE9</b>\nline two", 0, "T");
+}
+
+TEST_F(QtDialogsTest, ClosingABoxWithOneButton_AnswersIt) {
+  WhenOpen<QMessageBox>([](QMessageBox& box) { box.reject(); });
+  EXPECT_EQ(dialogs_.MessageBox("Text", 0, "T"), Answer::kOk);
+}
+
+TEST_F(QtDialogsTest, InputBox_GivesWhatWasTyped_OrNothing) {
+  WhenOpen<QInputDialog>([](QInputDialog& box) {
+    EXPECT_EQ(box.textValue(), QStringLiteral("first"));
+    box.setTextValue(QStringLiteral("Été"));
+    box.accept();
+  });
+  EXPECT_EQ(dialogs_.InputBox("Prompt", "T", "first"), "\xC9t\xE9");
+  WhenOpen<QInputDialog>([](QInputDialog& box) { box.reject(); });
+  EXPECT_EQ(dialogs_.InputBox("Prompt", "T", "first"), "");
+}
+
+TEST_F(QtDialogsTest, ProgramEndsWhileABoxIsOpen_TheEventIsLeft) {
+  gate_.on_end = [this](int) { dialogs_.CloseAll(); };
+  bool went_on = false;
+  WhenOpen<QMessageBox>([this](QMessageBox&) { gate_.Enter([] { EndProgram(3); }); });
+  gate_.Enter([this, &went_on] {
+    dialogs_.MessageBox("Waiting", box_style::kOkCancel, "T");
+    went_on = true;
+  });
+  EXPECT_FALSE(went_on) << "the step behind the box must not run in a program that has ended";
+  EXPECT_EQ(gate_.exit_code(), 3);
+}
+
+}  // namespace
+}  // namespace quixair::testing
