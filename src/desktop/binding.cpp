@@ -38,7 +38,10 @@ class LabelBinding : public Binding {
   }
 
  protected:
-  void ShowText() override { widget_.setText(ToQt(label_.caption())); }
+  /// A label of several lines breaks where its caption has a gap, as a button does.
+  void ShowText() override {
+    widget_.setText(widget_.wordWrap() ? WithLineBreaks(label_.caption()) : ToQt(label_.caption()));
+  }
 
  private:
   Label& label_;
@@ -53,7 +56,7 @@ class ButtonBinding : public Binding {
   }
 
  protected:
-  void ShowText() override { widget_.setText(ButtonCaption(button_.caption())); }
+  void ShowText() override { widget_.setText(WithLineBreaks(button_.caption())); }
 
  private:
   Button& button_;

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPainter>
 #include <QPixmap>
+#include <QStyleOption>
 #include <functional>
 
 namespace quixair::desktop {
@@ -50,6 +51,34 @@ QIcon BoxSign(const QColor& ground, const QColor& ink, QChar sign, bool triangle
   });
 }
 
+/// The square of a check box or the round of an option, filled with the accent when it is set.
+void PaintIndicator(QPainter& painter, const QStyleOption& option, bool round) {
+  const bool set = option.state.testFlag(QStyle::State_On);
+  const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+  const QPalette& palette = option.palette;
+  const QColor accent = enabled ? palette.color(QPalette::Highlight) : palette.color(QPalette::Mid);
+  const QRectF place = QRectF(option.rect).adjusted(1, 1, -1, -1);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(set ? accent : palette.color(QPalette::PlaceholderText), 1.2));
+  painter.setBrush(set ? accent : palette.color(QPalette::Base));
+  const double corner = round ? place.height() / 2 : 3;
+  painter.drawRoundedRect(place, corner, corner);
+  if (set && round) {
+    painter.setBrush(palette.color(QPalette::HighlightedText));
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(place.center(), place.width() / 5, place.width() / 5);
+  } else if (set) {
+    painter.setPen(
+        QPen(palette.color(QPalette::HighlightedText), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const auto at = [&place](double x, double y) {
+      return QPointF(place.left() + place.width() * x, place.top() + place.height() * y);
+    };
+    painter.drawPolyline(QPolygonF({at(0.22, 0.52), at(0.43, 0.73), at(0.78, 0.28)}));
+  }
+  painter.restore();
+}
+
 }  // namespace
 
 DesktopStyle::DesktopStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -79,6 +108,15 @@ QIcon DesktopStyle::standardIcon(StandardPixmap picture, const QStyleOption* opt
       return BoxSign(kRed, Qt::white, u'×', false);
     default:
       return QProxyStyle::standardIcon(picture, option, widget);
+  }
+}
+
+void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                 const QWidget* widget) const {
+  if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton) {
+    PaintIndicator(*painter, *option, element == PE_IndicatorRadioButton);
+  } else {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
 }
 

@@ -12,6 +12,8 @@ class DesktopStyle : public QProxyStyle {
   DesktopStyle();
   QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
                      const QWidget* widget) const override;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override;
 };

@@ -1,11 +1,12 @@
 #include "desktop/main_frame.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMenuBar>
 #include <QPainter>
+#include <QPointer>
 #include <QStatusBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -87,8 +88,11 @@ MainFrame::MainFrame(const Platform& platform, ThemeSwitch& theme)
   theme_button_->setToolTip(QStringLiteral("Change between the light and the dark look"));
   theme_button_->setFocusPolicy(Qt::NoFocus);
   connect(theme_button_, &QToolButton::clicked, this, [this] {
+    // A maximised child hands the focus on when its style changes.
+    const QPointer<QWidget> focus = QApplication::focusWidget();
     theme_.Toggle();
     ShowThemeName();
+    if (focus != nullptr) focus->setFocus();
   });
   statusBar()->addPermanentWidget(theme_button_);
   statusBar()->setSizeGripEnabled(false);

@@ -18,7 +18,7 @@ QString Trimmed(std::string_view code_page_text) {
   return ToQt(code_page_text).trimmed();
 }
 
-QString ButtonCaption(std::string_view caption) {
+QString WithLineBreaks(std::string_view caption) {
   static const QRegularExpression run_of_blanks(QStringLiteral(" {3,}"));
   return Trimmed(caption).replace(run_of_blanks, QStringLiteral("\n"));
 }

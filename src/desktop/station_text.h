@@ -16,8 +16,8 @@ std::string FromQt(const QString& text);
 /// A text whose blanks at the ends only place it on its line.
 QString Trimmed(std::string_view code_page_text);
 
-/// A button's caption: a run of blanks inside stands for a line break.
-QString ButtonCaption(std::string_view caption);
+/// Captions of several lines: a run of blanks inside stands for a line break.
+QString WithLineBreaks(std::string_view caption);
 
 /// The object name of a control's widget: "CurrLabel(0)" is "CurrLabel_0".
 QString WidgetName(std::string_view control_name);

@@ -5,9 +5,10 @@
 // sound card can be reached the items run on in silence and real time, OutputTrouble() says so, and the sound
 // comes back by itself.
 //
-//     quixair::sound::SoundSystem sound;                       // starts looking for the device, does not
-//     wait for it std::unique_ptr<MediaPlayer> player = sound.MakePlayer(1);
-//     player->Open("C:\\MUSIC\\SONG.MP3", host_path), player->Play();
+//     quixair::sound::SoundSystem sound;  // starts looking for the device and does not wait for it
+//     std::unique_ptr<MediaPlayer> player = sound.MakePlayer(1);
+//     player->Open("C:\\QXWAVE\\M0001.mp3", host_path);
+//     player->Play();
 //
 // Everything here is called on the user interface thread and none of it waits for a device. Opening a file
 // reads it on that thread: about a millisecond for WAV or a file that was open before, some ten for four

@@ -64,6 +64,18 @@ TEST_F(BinderTest, ButtonCaption_BreaksAtRunsOfBlanks) {
   EXPECT_EQ(form_.button->text(), QStringLiteral("Re-&Queue\nCurrent"));
 }
 
+TEST_F(BinderTest, WrappedLabel_BreaksThereToo_OthersShowTheirBlanks) {
+  form_.label->setWordWrap(true);
+  Bind();
+  screen_->Label1.SetCaption("HH:MM A/P.          Click Done");
+  binder_->Flush();
+  EXPECT_EQ(form_.label->text(), QStringLiteral("HH:MM A/P.\nClick Done"));
+  form_.label->setWordWrap(false);
+  screen_->Label1.SetCaption(" Elapsed:    1.5");
+  binder_->Flush();
+  EXPECT_EQ(form_.label->text(), QStringLiteral(" Elapsed:    1.5"));
+}
+
 TEST_F(BinderTest, TenThousandRows_AreOneReset) {
   Bind();
   QSignalSpy resets(form_.list->model(), &QAbstractItemModel::modelReset);
@@ -104,6 +116,7 @@ TEST_F(BinderTest, DoubleClickAndEnter_AreEventsOfTheirOwn) {
   const QPoint place = form_.list->visualRect(form_.list->model()->index(0, 0)).center();
   QTest::mouseClick(form_.list->viewport(), Qt::LeftButton, {}, place);
   QTest::mouseDClick(form_.list->viewport(), Qt::LeftButton, {}, place);
+  QTest::mouseRelease(form_.list->viewport(), Qt::LeftButton, {}, place);
   EXPECT_THAT(events, ::testing::EndsWith("double ")) << "no click may follow a double click";
   events.clear();
   QTest::keyClick(form_.list, Qt::Key_Return);
@@ -137,6 +150,15 @@ TEST_F(BinderTest, TickTakenBackByTheStation_ShowsUnticked) {
   Bind();
   QTest::mouseClick(form_.check, Qt::LeftButton, {}, QPoint(8, form_.check->height() / 2));
   QCoreApplication::processEvents();
+  EXPECT_FALSE(form_.check->isChecked());
+}
+
+TEST_F(BinderTest, TickThatComesTooLate_ShowsUnticked) {
+  Bind();
+  screen_->Check1.Disable();  // and the window does not show it yet
+  QTest::mouseClick(form_.check, Qt::LeftButton, {}, QPoint(8, form_.check->height() / 2));
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(screen_->Check1.ticked());
   EXPECT_FALSE(form_.check->isChecked());
 }
 
@@ -191,7 +213,10 @@ TEST_F(BinderTest, StatusLine_CannotBeTypedInAndLosesItsLeadingBlanks) {
   EXPECT_EQ(screen_->Status.text(), std::string(50, ' ') + "Digital Audio");
 }
 
-TEST_F(BinderTest, YellowGround_HasBlackText) {
+TEST_F(BinderTest, YellowGround_HasBlackText_InADarkThemeToo) {
+  QPalette dark;
+  dark.setColor(QPalette::Text, Qt::white);
+  form_.root.setPalette(dark);
   screen_->Status.SetBackColor(kYellow);
   Bind();
   form_.status->ensurePolished();

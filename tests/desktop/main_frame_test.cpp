@@ -12,6 +12,7 @@
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/row_list.h"
+#include "station/platform/event_gate.h"
 
 namespace quixair::testing {
 namespace {
@@ -89,6 +90,15 @@ TEST_F(MainFrameTest, ClosingAChild_UnloadsItsScreen) {
   Rest();
   ChooseMenu("ViewErrorLog");
   EXPECT_TRUE(Form("ErrorLog").isVisible()) << "a screen can be opened again after its window was closed";
+}
+
+TEST_F(MainFrameTest, ClosingAChild_IsTheScreensDecision) {
+  StartPastSplash();
+  ChooseMenu("ViewErrorLog");
+  QMdiSubWindow* window = WindowOf("ErrorLog");
+  station_.Do([] { EndProgram(); });  // from now on no screen is asked
+  window->close();
+  EXPECT_TRUE(window->isVisible());
 }
 
 TEST_F(MainFrameTest, ClosingTheFrame_EndsTheProgramInOrder) {

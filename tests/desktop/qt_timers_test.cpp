@@ -157,10 +157,10 @@ TEST(QtTimersOnTheEventLoop, WakesByItself_AlsoInsideATick) {
   std::unique_ptr<TimerShots> first;
   first = timers.MakeTimer([&] {
     first->Stop();
-    second->Start(milliseconds(1));
     inner_result = inner.exec();
     outer.quit();
   });
+  second->Start(milliseconds(30));
   first->Start(milliseconds(1));
   EXPECT_EQ(outer.exec(), 0);
   EXPECT_EQ(inner_result, 0) << "a timer must go on while another's tick waits in a box";

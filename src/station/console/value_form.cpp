@@ -67,6 +67,7 @@ void ReadForm::DropDelimiter() {
 
 std::vector<std::string> ReadValues(std::string_view content, std::size_t count) {
   std::vector<std::string> values;
+  values.reserve(count);
   ReadForm form(content);
   while (values.size() < count && !form.AtEnd()) values.push_back(form.Next().value_or({}));
   return values;

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <utility>
@@ -84,21 +85,15 @@ bool IsFile(const std::string& host_path) {
 Result<std::string> ReadAll(const std::string& host_path) {
   Descriptor file(::open(host_path.c_str(), O_RDONLY | O_CLOEXEC));
   if (!file.open()) return LastError();
-  std::string content;
   // Nearly every file of a station is smaller than this: one read is all.
-  std::size_t chunk = 4096;
+  std::array<char, 4096> chunk;
+  std::string content;
   for (;;) {
-    const std::size_t before = content.size();
-    content.resize(before + chunk);
-    const ssize_t got = ::read(file.get(), content.data() + before, chunk);
-    if (got < 0 && errno == EINTR) {
-      content.resize(before);
-      continue;
-    }
+    const ssize_t got = ::read(file.get(), chunk.data(), chunk.size());
+    if (got < 0 && errno == EINTR) continue;
     if (got < 0) return LastError();
-    content.resize(before + static_cast<std::size_t>(got));
-    if (static_cast<std::size_t>(got) < chunk) return content;  // of a file, that is its end
-    chunk = 65536;
+    content.append(chunk.data(), static_cast<std::size_t>(got));
+    if (static_cast<std::size_t>(got) < chunk.size()) return content;  // of a file, that is its end
   }
 }
 
@@ -189,7 +184,9 @@ Status DiskFiles::MakeFolder(std::string_view path) {
   return {};
 }
 
-bool DiskFiles::Exists(std::string_view path) { return HostPath(path).has_value(); }
+bool DiskFiles::Exists(std::string_view path) {
+  return HostPath(path).has_value();
+}
 
 Result<std::vector<std::string>> DiskFiles::List(std::string_view folder, std::string_view pattern) {
   auto host_folder = HostFolder(folder);
@@ -315,7 +312,8 @@ const DiskFiles::FolderIndex* DiskFiles::NamedIndex(const std::string& folder) {
   if (index == nullptr || index->named) return index;
   if (OrderedIndex(folder) == nullptr) return nullptr;
   index->real_names.clear();
-  for (const Entry& entry : index->entries) index->real_names.emplace(UpperCased(FromUtf8(entry.name)), entry.name);
+  for (const Entry& entry : index->entries)
+    index->real_names.emplace(UpperCased(FromUtf8(entry.name)), entry.name);
   index->named = index->ordered;
   return index;
 }

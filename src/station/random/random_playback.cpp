@@ -132,11 +132,11 @@ void RandomPlayback::PrepareScreen() {
   SkipAndGoOn(WriteTextSetting(context_.platform.files, station_paths::kResetRandom, "0"));
 }
 
-void RandomPlayback::ShowProgress(const std::string& text) {
-  context_.screen.Text1.SetText(text);
+void RandomPlayback::ShowProgress(int count, const char* what) {
   const SteadyTime now = context_.platform.clock.Steady();
   if (SecondsBetween(last_progress_, now) < kProgressSeconds) return;
   last_progress_ = now;
+  context_.screen.Text1.SetText(std::to_string(count) + what);
   context_.screen.Repaint();
 }
 
@@ -165,7 +165,7 @@ bool RandomPlayback::LoadMusic() {
   for (const std::string& id : ids) {
     music.Add(ReadSong(files, id));
     ShowPoolRow("", music.row(music.count()));
-    ShowProgress(std::to_string(music.count()) + " Files Found...");
+    ShowProgress(music.count(), " Files Found...");
   }
   return true;
 }
@@ -260,7 +260,7 @@ void RandomPlayback::LoadSpotRotation() {
   for (const TemplateEvent& event : events) screen.List5.AddRow(event.EventId);
   for (const TemplateEvent& event : events) {
     spots.Add(ReadRotationSpot(files, event.EventId));
-    ShowProgress(std::to_string(spots.count()) + " Spots/PSA's Found...");
+    ShowProgress(spots.count(), " Spots/PSA's Found...");
   }
 }
 

@@ -84,7 +84,8 @@ class RandomPlayback {
   void LoadSpotRotation();
   void ShowSwitches();
   void FillChoices();
-  void ShowProgress(const std::string& text);
+  /// A count and what it counts, as often as an eye can follow.
+  void ShowProgress(int count, const char* what);
   void ShowPoolRow(const std::string& mark, const PoolRow& row);
 
   RandomContext context_;

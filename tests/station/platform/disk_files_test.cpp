@@ -1,0 +1,238 @@
+#include "station/platform/disk_files.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+
+#include "station/platform/text.h"
+#include "support/station_fixture.h"
+
+namespace quixair::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr Durability kOrdinary = Durability::kOrdinary;
+
+class DiskFilesTest : public ::testing::Test {
+ protected:
+  DiskFilesTest() {
+    for (const char* name : {"QXAIR", "QXDATA"}) fs::create_directories(folder_.path() / name);
+  }
+  fs::path Host(std::string_view path) const { return folder_.path() / path; }
+  std::string HostText(std::string_view path) const { return ReadHostFile(Host(path)); }
+  void PutHost(std::string_view path, std::string_view bytes) { WriteHostFile(Host(path), bytes); }
+  /// As if the folder had stood for a while, so that its index is kept.
+  void Age(std::string_view folder) {
+    fs::last_write_time(Host(folder), fs::file_time_type::clock::now() - std::chrono::hours(1));
+  }
+  std::string Read(std::string_view path) { return files_.Read(path).value_or("<none>"); }
+  int ReadError(std::string_view path) { return files_.Read(path).status().number(); }
+  int WriteError(std::string_view path) { return files_.Write(path, "x", kOrdinary).number(); }
+  std::vector<std::string> Listed(std::string_view folder, std::string_view pattern) {
+    std::vector<std::string> names = files_.List(folder, pattern).value_or({"<none>"});
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+  Drives Table() {
+    Drives drives;
+    drives.Set('C', folder_.path());
+    drives.Set('E', folder_.path() / "gone");
+    return drives;
+  }
+
+  TemporaryFolder folder_;
+  DiskFiles files_{Table()};
+};
+
+TEST_F(DiskFilesTest, NamesAndFolders_AreFoundInAnyCase) {
+  PutHost("QXDATA/M0001.Dat", "song");
+  PutHost("Mixed/Inner/file.TXT", "deep");
+  for (const char* path :
+       {"C:\\QXDATA\\M0001.Dat", "c:\\qxdata\\m0001.dat", "C:/QxData/M0001.DAT", "C:\\\\QXDATA\\M0001.dat"}) {
+    EXPECT_EQ(Read(path), "song") << path;
+    EXPECT_TRUE(files_.Exists(path)) << path;
+  }
+  EXPECT_EQ(Read("C:\\MIXED\\INNER\\FILE.txt"), "deep");
+  EXPECT_EQ(files_.HostPath("C:\\qxdata\\m0001.dat"), Host("QXDATA/M0001.Dat"));
+  EXPECT_FALSE(files_.Exists("C:\\QXDATA")) << "a folder is no file";
+}
+
+TEST_F(DiskFilesTest, BothSpellingsThere_TheExactOneCounts) {
+  PutHost("QXDATA/S1.DAT", "upper");
+  PutHost("QXDATA/s1.dat", "lower");
+  EXPECT_EQ(Read("C:\\QXDATA\\S1.DAT"), "upper");
+  EXPECT_EQ(Read("C:\\QXDATA\\s1.dat"), "lower");
+  EXPECT_TRUE(files_.Delete("C:\\QXDATA\\S1.DAT").ok());
+  EXPECT_EQ(Read("C:\\QXDATA\\S1.DAT"), "lower");
+}
+
+TEST_F(DiskFilesTest, WrittenInAnotherCase_ReplacesTheFileThatIsThere) {
+  PutHost("QXAIR/overlap.dta", "a longer old content");
+  ASSERT_TRUE(files_.Write("C:\\QXAIR\\OVERLAP.DTA", "new", kOrdinary).ok());
+  EXPECT_EQ(HostText("QXAIR/overlap.dta"), "new");
+  EXPECT_FALSE(fs::exists(Host("QXAIR/OVERLAP.DTA")));
+  ASSERT_TRUE(files_.Append("C:\\qxair\\OVERLAP.dta", "+more", Durability::kFlushed).ok());
+  EXPECT_EQ(HostText("QXAIR/overlap.dta"), "new+more");
+}
+
+TEST_F(DiskFilesTest, Append_MakesTheFile) {
+  ASSERT_TRUE(files_.Append("C:\\QXAIR\\QXERROR.LOG", "one\r\n", Durability::kFlushed).ok());
+  ASSERT_TRUE(files_.Append("C:\\QXAIR\\QXERROR.LOG", "two\r\n", Durability::kFlushed).ok());
+  EXPECT_EQ(HostText("QXAIR/QXERROR.LOG"), "one\r\ntwo\r\n");
+}
+
+TEST_F(DiskFilesTest, FilesOfAnySize_AreReadWhole) {
+  for (const std::size_t size : {0U, 1U, 4095U, 4096U, 4097U, 8192U, 300000U}) {
+    std::string bytes(size, '\0');
+    for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<char>(i % 251);
+    PutHost("QXDATA/SOURCE.BIN", bytes);
+    ASSERT_TRUE(files_.Copy("C:\\QXDATA\\SOURCE.BIN", "C:\\QXAIR\\COPY.BIN").ok());
+    EXPECT_TRUE(HostText("QXAIR/COPY.BIN") == bytes) << size << " bytes";
+  }
+}
+
+TEST_F(DiskFilesTest, OwnChanges_AreSeenAtOnceInAnyCase) {
+  PutHost("QXDATA/A.DAT", "");
+  Age("QXDATA");
+  EXPECT_FALSE(files_.Exists("C:\\QXDATA\\new.dat"));
+  ASSERT_TRUE(files_.Write("C:\\QXDATA\\NEW.DAT", "x", kOrdinary).ok());
+  EXPECT_TRUE(files_.Exists("C:\\QXDATA\\new.dat"));
+  EXPECT_EQ(Listed("C:\\QXDATA", "*.DAT"), (std::vector<std::string>{"A.DAT", "NEW.DAT"}));
+  ASSERT_TRUE(files_.Delete("C:\\QXDATA\\new.dat").ok());
+  EXPECT_FALSE(files_.Exists("C:\\QXDATA\\NEW.DAT"));
+  EXPECT_EQ(Listed("C:\\QXDATA", "*.DAT"), (std::vector<std::string>{"A.DAT"}));
+  ASSERT_TRUE(files_.MakeFolder("C:\\QXDATA\\Sub").ok());
+  EXPECT_EQ(WriteError("C:\\QXDATA\\SUB\\x.dat"), 0);
+}
+
+TEST_F(DiskFilesTest, ChangesBehindOurBack_AreSeen) {
+  PutHost("QXDATA/OLD.DAT", "old");
+  Age("QXDATA");
+  EXPECT_EQ(Read("C:\\QXDATA\\old.dat"), "old");  // the index is held now
+  PutHost("QXDATA/ADDED.DAT", "added");
+  EXPECT_EQ(Read("C:\\QXDATA\\added.dat"), "added");
+  fs::rename(Host("QXDATA/OLD.DAT"), Host("QXDATA/Old.dat"));
+  EXPECT_EQ(Read("C:\\QXDATA\\OLD.DAT"), "old");
+  fs::remove(Host("QXDATA/Old.dat"));
+  EXPECT_EQ(ReadError("C:\\QXDATA\\OLD.DAT"), 53);
+  EXPECT_EQ(Listed("C:\\QXDATA", "*.*"), (std::vector<std::string>{"ADDED.DAT"}));
+}
+
+TEST_F(DiskFilesTest, ChangesWithinTheGrainOfTheFoldersTime_AreFoundByTheNamesThatLedAstray) {
+  PutHost("QXDATA/OLD.DAT", "old");
+  Age("QXDATA");
+  const auto stood = fs::last_write_time(Host("QXDATA"));
+  EXPECT_EQ(Read("C:\\QXDATA\\old.dat"), "old");
+  fs::rename(Host("QXDATA/OLD.DAT"), Host("QXDATA/Old.Dat"));
+  fs::last_write_time(Host("QXDATA"), stood);  // the folder's time tells nothing
+  EXPECT_EQ(Read("C:\\QXDATA\\old.dat"), "old");
+  fs::remove(Host("QXDATA/Old.Dat"));
+  fs::last_write_time(Host("QXDATA"), stood);
+  EXPECT_FALSE(files_.Exists("C:\\QXDATA\\old.dat"));
+}
+
+TEST_F(DiskFilesTest, FolderRenamedBehindOurBack_IsFoundAgain) {
+  PutHost("QXDATA/S1.DAT", "spot");
+  EXPECT_EQ(Read("C:\\QXDATA\\S1.DAT"), "spot");
+  fs::rename(Host("QXDATA"), Host("qxdata"));
+  EXPECT_EQ(Read("C:\\QXDATA\\S1.DAT"), "spot");
+  fs::rename(Host("qxdata"), Host("QxData"));
+  EXPECT_EQ(WriteError("C:\\QXDATA\\S1.DAT"), 0);
+  EXPECT_EQ(Listed("C:\\QXDATA", "S*"), (std::vector<std::string>{"S1.DAT"}));
+  fs::remove_all(Host("QxData"));
+  EXPECT_EQ(ReadError("C:\\QXDATA\\S1.DAT"), 76);
+  EXPECT_EQ(WriteError("C:\\QXDATA\\S1.DAT"), 76);
+}
+
+TEST_F(DiskFilesTest, Errors_CarryTheNumbersThatOperatorsKnow) {
+  fs::create_directories(Host("QXDATA/FOLDER.DAT"));
+  const struct {
+    const char* path;
+    int read, write;
+  } cases[] = {
+      {"C:\\QXDATA\\S9.DAT", 53, 0},
+      {"C:\\NOWHERE\\S1.DAT", 76, 76},
+      {"D:\\QXWAVE\\S1.WAV", 71, 71},
+      {"E:\\S1.WAV", 71, 71},
+      {"C:\\QXDATA\\FOLDER.DAT", 75, 75},
+      {"", 52, 52},
+      {"S1.DAT", 52, 52},
+      {"C:S1.DAT", 52, 52},
+      {"C:\\QXDATA\\", 52, 52},
+      {"C:\\QXDATA\\..", 52, 52},
+      {"C:\\QXDATA\\..\\S1.DAT", 52, 52},
+      {"C:\\..\\..\\etc\\passwd", 52, 52},
+      {"C:\\QXDATA\\../../x.DAT", 52, 52},
+      {"\\\\SERVER\\S1.DAT", 52, 52},
+      {"C:\\QXDATA\\S9.DAT\\S1.DAT", 76, 76},
+  };
+  for (const auto& [path, read, write] : cases) {
+    EXPECT_EQ(ReadError(path), read) << path;
+    EXPECT_EQ(WriteError(path), write) << path;
+  }
+  EXPECT_EQ(WriteError("C:\\QXDATA\\" + std::string(300, 'S')), 52);
+  EXPECT_EQ(files_.Delete("C:\\QXDATA\\NONE.DAT").number(), 53);
+  EXPECT_EQ(files_.Delete("C:\\QXDATA\\FOLDER.DAT").number(), 53) << "a folder is no file to delete";
+  EXPECT_EQ(files_.Copy("C:\\QXDATA\\NONE.DAT", "C:\\QXAIR\\NONE.DAT").number(), 53);
+  EXPECT_EQ(files_.MakeFolder("c:\\qxdata").number(), 75);
+  EXPECT_EQ(files_.MakeFolder("C:\\NOWHERE\\NEW").number(), 76);
+  EXPECT_EQ(files_.MakeFolder("D:\\NEW").number(), 71);
+  EXPECT_EQ(files_.List("C:\\NOWHERE", "*.*").status().number(), 76);
+  EXPECT_FALSE(fs::exists(folder_.path() / "QXAIR/NONE.DAT"));
+}
+
+TEST_F(DiskFilesTest, NotAllowed_Is70) {
+  if (::geteuid() == 0) GTEST_SKIP() << "nothing is forbidden to root";
+  PutHost("QXAIR/LOCKED.DTA", "x");
+  ::chmod(Host("QXAIR/LOCKED.DTA").c_str(), 0);
+  EXPECT_EQ(ReadError("C:\\QXAIR\\LOCKED.DTA"), 70);
+  EXPECT_EQ(WriteError("C:\\QXAIR\\LOCKED.DTA"), 70);
+  ::chmod(Host("QXDATA").c_str(), 0500);
+  EXPECT_EQ(WriteError("C:\\QXDATA\\NEW.DTA"), 70);
+}
+
+TEST_F(DiskFilesTest, FullDisk_Is61) {
+  fs::create_symlink("/dev/full", Host("QXAIR/RESET.DTA"));
+  EXPECT_EQ(files_.Write("C:\\QXAIR\\RESET.DTA", "\"1\"\r\n", Durability::kFlushed).number(), 61);
+  EXPECT_EQ(files_.Append("C:\\QXAIR\\RESET.DTA", "line", kOrdinary).number(), 61);
+  PutHost("QXDATA/SOURCE.DAT", "x");
+  EXPECT_EQ(files_.Copy("C:\\QXDATA\\SOURCE.DAT", "C:\\QXAIR\\RESET.DTA").number(), 61);
+}
+
+TEST_F(DiskFilesTest, List_GivesFilesOnlyInTheFoldersOwnOrder) {
+  for (const char* name : {"S1.DAT", "m1.dat", "M2.DAT", "L1.TXT", "M3.DAT.BAK"})
+    PutHost("QXDATA/" + std::string(name), "");
+  fs::create_directories(Host("QXDATA/M9.DAT"));
+  fs::create_symlink(Host("QXDATA/S1.DAT"), Host("QXDATA/M4.DAT"));
+  EXPECT_EQ(Listed("c:\\qxdata", "M*.DAT"), (std::vector<std::string>{"M2.DAT", "M4.DAT", "m1.dat"}));
+  EXPECT_EQ(Listed("C:\\QXDATA\\", "S*.DAT;*.TXT"), (std::vector<std::string>{"L1.TXT", "S1.DAT"}));
+  std::vector<std::string> order;
+  for (const auto& entry : fs::directory_iterator(Host("QXDATA"))) {
+    if (entry.is_regular_file()) order.push_back(entry.path().filename().string());
+  }
+  EXPECT_EQ(files_.List("C:\\QXDATA", "*.*").value_or({}), order);
+}
+
+TEST_F(DiskFilesTest, AccentsInNames_AreUnicodeOnTheHostAndCodePageInTheStation) {
+  PutHost("QXDATA/Café.tpp", "list");
+  const std::string name = FromUtf8("CAFÉ.TPP");
+  EXPECT_EQ(name.size(), 8U);
+  EXPECT_EQ(Read("C:\\QXDATA\\" + name), "list");
+  EXPECT_EQ(Listed("C:\\QXDATA", "*.TPP"), (std::vector<std::string>{FromUtf8("Café.tpp")}));
+  ASSERT_TRUE(files_.Write("C:\\QXDATA\\" + FromUtf8("Noël.TPP"), "x", kOrdinary).ok());
+  EXPECT_TRUE(fs::exists(Host("QXDATA/Noël.TPP")));
+}
+
+TEST_F(DiskFilesTest, NamesThatTheCodePageCannotHold_CanStillBeOpenedAsTheyAreListed) {
+  PutHost("QXDATA/caf\xE9.dat", "no UTF-8");
+  PutHost("QXDATA/\u0141.dat", "outside the code page");
+  EXPECT_EQ(Listed("C:\\QXDATA", "*.dat"), (std::vector<std::string>{"?.dat", "caf?.dat"}));
+  EXPECT_EQ(Read("C:\\QXDATA\\caf?.dat"), "no UTF-8");
+  EXPECT_EQ(Read("C:\\QXDATA\\?.dat"), "outside the code page");
+}
+
+}  // namespace
+}  // namespace quixair::testing
