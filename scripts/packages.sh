@@ -25,12 +25,17 @@ need_packages() {
     >/dev/null
 }
 
-# Builds one preset; prints only what went wrong.
+# Builds one preset, the targets named or all of them; words with -D are options of the configuration. Prints only what
+# went wrong.
 build() {
-  local preset=$1
+  local preset=$1 options=() targets=() word log
   shift
+  for word in "$@"; do
+    case $word in -D*) options+=("$word") ;; *) targets+=(--target "$word") ;; esac
+  done
+  mkdir -p build
+  log=build/$preset.log
   echo "Building ($preset)..."
-  cmake --preset "$preset" "$@" >"build-$preset.log" 2>&1 && cmake --build --preset "$preset" >>"build-$preset.log" 2>&1 ||
-    { tail -n 60 "build-$preset.log"; echo "The build failed; the whole log is build-$preset.log."; return 1; }
-  rm -f "build-$preset.log"
+  cmake --preset "$preset" "${options[@]}" >"$log" 2>&1 && cmake --build --preset "$preset" "${targets[@]}" >>"$log" 2>&1 ||
+    { tail -n 60 "$log"; echo "The build failed; the whole log is $log."; return 1; }
 }

@@ -56,7 +56,8 @@ quixair::Drives LoadDrives(const CommandLine& line) {
 int main(int argc, char** argv) {
   const auto line = Parse(argc, argv);
   if (!line) {
-    std::cerr << "usage: quixair-script [--drives FILE] [--seed N] SCRIPT    (SCRIPT - reads standard input)\n";
+    std::cerr
+        << "usage: quixair-script [--drives FILE] [--seed N] SCRIPT    (SCRIPT - reads standard input)\n";
     return 2;
   }
   std::ios::sync_with_stdio(false);

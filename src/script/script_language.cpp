@@ -10,7 +10,9 @@
 namespace quixair::script {
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\r';
+}
 
 /// Reads the quoted text that begins behind `at`; leaves `at` behind its closing quote.
 void AppendQuoted(std::string_view line, std::size_t& at, std::string& text) {
@@ -51,7 +53,8 @@ std::vector<Word> WordsOf(std::string_view line) {
       ++at;
       continue;
     }
-    if (line[at] == '#' && (words.empty() || !(at + 1 < line.size() && line[at + 1] >= '0' && line[at + 1] <= '9'))) {
+    if (line[at] == '#' &&
+        (words.empty() || !(at + 1 < line.size() && line[at + 1] >= '0' && line[at + 1] <= '9'))) {
       break;  // "#3" names a row
     }
     std::string text;
@@ -82,7 +85,11 @@ std::chrono::milliseconds SpanOf(std::string_view text) {
   long long number = 0;
   const auto parsed = std::from_chars(text.data(), text.data() + text.size(), number);
   const std::string_view unit(parsed.ptr, static_cast<std::size_t>(text.data() + text.size() - parsed.ptr));
-  const long long factor = unit == "ms" ? 1 : unit == "s" ? 1000 : unit == "m" ? 60'000 : unit == "h" ? 3'600'000 : 0;
+  const long long factor = unit == "ms"  ? 1
+                           : unit == "s" ? 1000
+                           : unit == "m" ? 60'000
+                           : unit == "h" ? 3'600'000
+                                         : 0;
   if (parsed.ec != std::errc() || factor == 0 || number < 0) {
     throw ScriptError("no span of time: " + ToUtf8(text) + " (500ms, 90s, 5m or 2h is wanted)");
   }
@@ -99,7 +106,8 @@ CivilTime MomentOf(std::string_view text) {
   time.minute = Field(text, 14, 2);
   time.second = Field(text, 17, 2);
   const CivilTime same = CivilFromMilliseconds(MillisecondsFromCivil(time));  // knows the weekday
-  if (same.day != time.day || same.hour != time.hour || same.minute != time.minute || same.month != time.month) {
+  if (same.day != time.day || same.hour != time.hour || same.minute != time.minute ||
+      same.month != time.month) {
     throw ScriptError("no such date and time: " + ToUtf8(text));
   }
   return same;
@@ -107,11 +115,13 @@ CivilTime MomentOf(std::string_view text) {
 
 CivilTime TimeOfDayOf(std::string_view text) {
   CivilTime time;
-  if (!HasShape(text, "00:00:00") && !HasShape(text, "00:00")) throw ScriptError("no time of day: " + ToUtf8(text));
+  if (!HasShape(text, "00:00:00") && !HasShape(text, "00:00"))
+    throw ScriptError("no time of day: " + ToUtf8(text));
   time.hour = Field(text, 0, 2);
   time.minute = Field(text, 3, 2);
   time.second = text.size() > 5 ? Field(text, 6, 2) : 0;
-  if (time.hour > 23 || time.minute > 59 || time.second > 59) throw ScriptError("no time of day: " + ToUtf8(text));
+  if (time.hour > 23 || time.minute > 59 || time.second > 59)
+    throw ScriptError("no time of day: " + ToUtf8(text));
   return time;
 }
 
@@ -132,8 +142,9 @@ std::string Quoted(std::string_view code_page_text) {
 
 std::string Stamp(const CivilTime& time) {
   std::array<char, 64> buffer{};
-  const int length = std::snprintf(buffer.data(), buffer.size(), "%04d-%02d-%02d %02d:%02d:%02d.%03d", time.year,
-                                   time.month, time.day, time.hour, time.minute, time.second, time.millisecond);
+  const int length =
+      std::snprintf(buffer.data(), buffer.size(), "%04d-%02d-%02d %02d:%02d:%02d.%03d", time.year, time.month,
+                    time.day, time.hour, time.minute, time.second, time.millisecond);
   return {buffer.data(), static_cast<std::size_t>(length)};
 }
 

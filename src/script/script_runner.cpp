@@ -123,10 +123,11 @@ Control& ScriptRunner::ControlNamed(const Word& word) {
   const Screen& screen = ScreenNamed(reference.screen);
   Control* found = nullptr;
   if (reference.by_caption) {
-    const auto captioned = std::find_if(screen.controls().begin(), screen.controls().end(), [&](const Control* control) {
-      const auto* candidate = dynamic_cast<const CaptionedControl*>(control);
-      return candidate != nullptr && candidate->caption() == reference.control;
-    });
+    const auto captioned =
+        std::find_if(screen.controls().begin(), screen.controls().end(), [&](const Control* control) {
+          const auto* candidate = dynamic_cast<const CaptionedControl*>(control);
+          return candidate != nullptr && candidate->caption() == reference.control;
+        });
     if (captioned != screen.controls().end()) found = *captioned;
   } else {
     found = screen.FindControl(reference.control);
@@ -140,14 +141,17 @@ Kind& ScriptRunner::Acting(const Word& word) {
   Control& control = ControlNamed(word);
   auto* wanted = dynamic_cast<Kind*>(&control);
   if (wanted == nullptr) {
-    throw ScriptError(ToUtf8(word.text) + " is a " + std::string(NameOf(control.kind())) + " and cannot do that");
+    throw ScriptError(ToUtf8(word.text) + " is a " + std::string(NameOf(control.kind())) +
+                      " and cannot do that");
   }
   if (!control.visible_to_person()) throw ScriptError("the control is hidden: " + ToUtf8(word.text));
   if (!control.enabled_for_person()) throw ScriptError("the control is disabled: " + ToUtf8(word.text));
   return *wanted;
 }
 
-void ScriptRunner::ClockStatement(const Arguments& words) { station_.time().SetCivil(MomentOf(words[0].text)); }
+void ScriptRunner::ClockStatement(const Arguments& words) {
+  station_.time().SetCivil(MomentOf(words[0].text));
+}
 
 void ScriptRunner::StartStatement(const Arguments&) {
   if (station_.running()) throw ScriptError("the program runs already");
@@ -178,9 +182,13 @@ void ScriptRunner::ClickStatement(const Arguments& words) {
   throw ScriptError("nothing to click: " + ToUtf8(name));
 }
 
-void ScriptRunner::DoubleClickStatement(const Arguments& words) { Acting<ListBox>(words[0]).DoubleClick(); }
+void ScriptRunner::DoubleClickStatement(const Arguments& words) {
+  Acting<ListBox>(words[0]).DoubleClick();
+}
 
-void ScriptRunner::EnterStatement(const Arguments& words) { Acting<ListBox>(words[0]).PressEnter(); }
+void ScriptRunner::EnterStatement(const Arguments& words) {
+  Acting<ListBox>(words[0]).PressEnter();
+}
 
 void ScriptRunner::ControlsStatement(const Arguments& words) {
   const Screen& screen = ScreenNamed(words[0].text);
@@ -224,7 +232,9 @@ void ScriptRunner::ClearStatement(const Arguments& words) {
   box.Edit({});
 }
 
-void ScriptRunner::LeaveStatement(const Arguments& words) { Acting<TextBox>(words[0]).LeaveFocus(); }
+void ScriptRunner::LeaveStatement(const Arguments& words) {
+  Acting<TextBox>(words[0]).LeaveFocus();
+}
 
 void ScriptRunner::TickStatement(const Arguments& words) {
   const bool on = words[1].text == "on";
@@ -241,9 +251,13 @@ void ScriptRunner::CloseStatement(const Arguments& words) {
   station_.Do([&screen] { screen.CloseWindow(); });
 }
 
-void ScriptRunner::AnswerStatement(const Arguments& words) { station_.dialogs().QueueAnswer(words[0].text); }
+void ScriptRunner::AnswerStatement(const Arguments& words) {
+  station_.dialogs().QueueAnswer(words[0].text);
+}
 
-void ScriptRunner::AdvanceStatement(const Arguments& words) { station_.time().Advance(SpanOf(words[0].text)); }
+void ScriptRunner::AdvanceStatement(const Arguments& words) {
+  station_.time().Advance(SpanOf(words[0].text));
+}
 
 void ScriptRunner::UntilStatement(const Arguments& words) {
   const CivilTime time = TimeOfDayOf(words[0].text);
@@ -299,13 +313,20 @@ void ScriptRunner::ExpectBoxStatement(const Arguments& words) {
   const auto& shown = station_.dialogs().shown();
   const std::string title = shown.empty() ? std::string() : shown.back().title;
   if (shown.empty() || title != words[0].text) {
-    failure_ = shown.empty() ? "no box was shown, expected was " + Quoted(words[0].text)
-                             : "the last box was " + Quoted(title) + ", expected was " + Quoted(words[0].text);
+    failure_ = shown.empty()
+                   ? "no box was shown, expected was " + Quoted(words[0].text)
+                   : "the last box was " + Quoted(title) + ", expected was " + Quoted(words[0].text);
   }
 }
 
-void ScriptRunner::PowerCutStatement(const Arguments&) { station_.PowerCut(); }
-void ScriptRunner::QuietStatement(const Arguments&) { trace_.SetQuiet(true); }
-void ScriptRunner::TraceStatement(const Arguments&) { trace_.SetQuiet(false); }
+void ScriptRunner::PowerCutStatement(const Arguments&) {
+  station_.PowerCut();
+}
+void ScriptRunner::QuietStatement(const Arguments&) {
+  trace_.SetQuiet(true);
+}
+void ScriptRunner::TraceStatement(const Arguments&) {
+  trace_.SetQuiet(false);
+}
 
 }  // namespace quixair::script

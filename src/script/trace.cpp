@@ -10,21 +10,30 @@ using Act = simulation::ChannelEvent::Act;
 
 const char* NameOf(Act act) {
   switch (act) {
-    case Act::kOpen: return "Open";
-    case Act::kPlay: return "Play";
-    case Act::kPause: return "Pause";
-    case Act::kPrev: return "Prev";
-    case Act::kClose: return "Close";
-    case Act::kEnd: return "end";
+    case Act::kOpen:
+      return "Open";
+    case Act::kPlay:
+      return "Play";
+    case Act::kPause:
+      return "Pause";
+    case Act::kPrev:
+      return "Prev";
+    case Act::kClose:
+      return "Close";
+    case Act::kEnd:
+      return "end";
   }
   return "";
 }
 
 const char* NameOf(WindowState window) {
   switch (window) {
-    case WindowState::kMinimised: return "minimised";
-    case WindowState::kMaximised: return "maximised";
-    case WindowState::kNormal: break;
+    case WindowState::kMinimised:
+      return "minimised";
+    case WindowState::kMaximised:
+      return "maximised";
+    case WindowState::kNormal:
+      break;
   }
   return "normal";
 }
@@ -53,7 +62,8 @@ void Trace::Box(const simulation::ShownBox& box) {
   if (box.input) {
     Event("input " + Quoted(box.title) + ' ' + Quoted(box.text) + " -> " + Quoted(box.answer));
   } else {
-    Event("box " + std::to_string(box.style) + ' ' + Quoted(box.title) + ' ' + Quoted(box.text) + " -> " + box.answer);
+    Event("box " + std::to_string(box.style) + ' ' + Quoted(box.title) + ' ' + Quoted(box.text) + " -> " +
+          box.answer);
   }
 }
 

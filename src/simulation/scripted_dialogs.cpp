@@ -10,10 +10,14 @@ namespace {
 
 std::vector<Answer> Offered(int style) {
   switch (style & box_style::kButtonMask) {
-    case box_style::kOkCancel: return {Answer::kOk, Answer::kCancel};
-    case box_style::kYesNoCancel: return {Answer::kYes, Answer::kNo, Answer::kCancel};
-    case box_style::kYesNo: return {Answer::kYes, Answer::kNo};
-    default: return {Answer::kOk};
+    case box_style::kOkCancel:
+      return {Answer::kOk, Answer::kCancel};
+    case box_style::kYesNoCancel:
+      return {Answer::kYes, Answer::kNo, Answer::kCancel};
+    case box_style::kYesNo:
+      return {Answer::kYes, Answer::kNo};
+    default:
+      return {Answer::kOk};
   }
 }
 
@@ -21,16 +25,21 @@ std::vector<Answer> Offered(int style) {
 
 std::string_view NameOf(Answer answer) {
   switch (answer) {
-    case Answer::kOk: return "OK";
-    case Answer::kCancel: return "Cancel";
-    case Answer::kYes: return "Yes";
-    case Answer::kNo: return "No";
+    case Answer::kOk:
+      return "OK";
+    case Answer::kCancel:
+      return "Cancel";
+    case Answer::kYes:
+      return "Yes";
+    case Answer::kNo:
+      return "No";
   }
   return {};
 }
 
 Answer ScriptedDialogs::MessageBox(std::string_view text, int style, std::string_view title) {
-  ShownBox box{.input = false, .style = style, .title = std::string(title), .text = std::string(text), .answer = {}};
+  ShownBox box{
+      .input = false, .style = style, .title = std::string(title), .text = std::string(text), .answer = {}};
   const std::vector<Answer> offered = Offered(style);
   Answer answer = offered.back();
   std::optional<std::string> wanted;
@@ -49,8 +58,10 @@ Answer ScriptedDialogs::MessageBox(std::string_view text, int style, std::string
   return answer;
 }
 
-std::string ScriptedDialogs::InputBox(std::string_view prompt, std::string_view title, std::string_view /*initial*/) {
-  ShownBox box{.input = true, .style = 0, .title = std::string(title), .text = std::string(prompt), .answer = {}};
+std::string ScriptedDialogs::InputBox(std::string_view prompt, std::string_view title,
+                                      std::string_view /*initial*/) {
+  ShownBox box{
+      .input = true, .style = 0, .title = std::string(title), .text = std::string(prompt), .answer = {}};
   const bool expected = !answers_.empty();
   if (expected) {
     box.answer = answers_.front();

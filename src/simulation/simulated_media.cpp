@@ -86,6 +86,8 @@ class SimulatedMedia::Player : public MediaPlayer {
   SteadyTime started_{};
 };
 
-std::unique_ptr<MediaPlayer> SimulatedMedia::MakePlayer(int number) { return std::make_unique<Player>(*this, number); }
+std::unique_ptr<MediaPlayer> SimulatedMedia::MakePlayer(int number) {
+  return std::make_unique<Player>(*this, number);
+}
 
 }  // namespace quixair::simulation

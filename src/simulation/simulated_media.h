@@ -18,8 +18,8 @@ struct ChannelEvent {
   enum class Act { kOpen, kPlay, kPause, kPrev, kClose, kEnd };
   int channel = 0;
   Act act = Act::kOpen;
-  std::string file;          // as given to the channel; of kOpen only
-  std::int32_t length = 0;   // of kOpen only
+  std::string file;         // as given to the channel; of kOpen only
+  std::int32_t length = 0;  // of kOpen only
 };
 
 class SimulatedMedia : public Media {

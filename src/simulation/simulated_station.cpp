@@ -44,7 +44,9 @@ SimulatedStation::SimulatedStation(Drives drives, const CivilTime& civil, Length
   time_.interrupted = [this] { return program_ != nullptr && program_->gate.ended(); };
 }
 
-SimulatedStation::~SimulatedStation() { PowerCut(); }
+SimulatedStation::~SimulatedStation() {
+  PowerCut();
+}
 
 void SimulatedStation::StartProgram() {
   PowerCut();

@@ -20,7 +20,8 @@ namespace quixair::simulation {
 
 class SimulatedStation {
  public:
-  SimulatedStation(Drives drives, const CivilTime& civil, LengthProbe probe, std::optional<std::uint64_t> seed);
+  SimulatedStation(Drives drives, const CivilTime& civil, LengthProbe probe,
+                   std::optional<std::uint64_t> seed);
   ~SimulatedStation();
   SimulatedStation(const SimulatedStation&) = delete;
   SimulatedStation& operator=(const SimulatedStation&) = delete;

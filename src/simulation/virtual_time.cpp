@@ -39,13 +39,17 @@ class VirtualTime::Shots : public TimerShots {
   bool running_ = false;
 };
 
-VirtualTime::VirtualTime(const CivilTime& civil) { SetCivil(civil); }
+VirtualTime::VirtualTime(const CivilTime& civil) {
+  SetCivil(civil);
+}
 
 std::int64_t VirtualTime::CivilMilliseconds() const {
   return civil_at_set_ + std::chrono::duration_cast<std::chrono::milliseconds>(now_ - civil_set_at_).count();
 }
 
-CivilTime VirtualTime::Now() const { return CivilFromMilliseconds(CivilMilliseconds()); }
+CivilTime VirtualTime::Now() const {
+  return CivilFromMilliseconds(CivilMilliseconds());
+}
 
 void VirtualTime::SetCivil(const CivilTime& civil) {
   civil_at_set_ = MillisecondsFromCivil(civil);
@@ -59,7 +63,8 @@ std::unique_ptr<TimerShots> VirtualTime::MakeTimer(std::function<void()> tick) {
 VirtualTime::Shots* VirtualTime::NextDue(SteadyTime limit) const {
   Shots* next = nullptr;
   for (Shots* timer : timers_) {
-    if (timer->running() && timer->due() <= limit && (next == nullptr || timer->due() < next->due())) next = timer;
+    if (timer->running() && timer->due() <= limit && (next == nullptr || timer->due() < next->due()))
+      next = timer;
   }
   return next;
 }

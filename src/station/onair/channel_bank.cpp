@@ -65,7 +65,8 @@ void ChannelBank::UpdateLabels() {
   }
 }
 
-void ChannelBank::ConnectBars(const std::function<bool()>& play_allowed, const std::function<bool()>& play_allowed_on_idle,
+void ChannelBank::ConnectBars(const std::function<bool()>& play_allowed,
+                              const std::function<bool()>& play_allowed_on_idle,
                               const std::function<void()>& do_continue) {
   for (MediaControl* channel : {&MMControl1, &MMControl2, &MMControl3}) {
     channel->on_pause_click = do_continue;

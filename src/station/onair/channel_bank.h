@@ -33,7 +33,8 @@ class ChannelBank {
 
   /// The transport bars lead to the operator's Continue: Play on channel 1 or 2 when `play_allowed` says so,
   /// on channel 3 when `play_allowed_on_idle` does, Pause on any of the three always.
-  void ConnectBars(const std::function<bool()>& play_allowed, const std::function<bool()>& play_allowed_on_idle,
+  void ConnectBars(const std::function<bool()>& play_allowed,
+                   const std::function<bool()>& play_allowed_on_idle,
                    const std::function<void()>& do_continue);
 };
 

@@ -146,7 +146,8 @@ void ListBox::AddRow(std::string row) {
   } else {
     const auto before = [](const std::string& a, const std::string& b) { return LessIgnoringCase(a, b); };
     const auto place = std::upper_bound(rows_.begin(), rows_.end(), row, before);
-    for (int& selected : selected_) selected += selected >= place - rows_.begin() ? 1 : 0;  // the same row stays
+    for (int& selected : selected_)
+      selected += selected >= place - rows_.begin() ? 1 : 0;  // the same row stays
     rows_.insert(place, std::move(row));
   }
   Changed(Aspect::kRows);

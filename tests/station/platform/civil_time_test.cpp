@@ -53,9 +53,9 @@ TEST(CalendarDays, Differences_CrossMonthsLeapDaysAndTheCentury) {
     const char *from, *to;
     int days;
   } cases[] = {
-      {"03-07-01", "03-08-01", 1},  {"12-31-01", "01-01-02", 1},   {"02-28-24", "03-01-24", 2},
-      {"02-28-23", "03-01-23", 1},  {"02-29-00", "03-01-00", 1},   {"12-31-99", "01-01-00", 1},
-      {"3-7-01", "03-07-2001", 0},  {"03/07/01", "03-04-01", -3},  {"01-01-30", "01-01-29", 36160},
+      {"03-07-01", "03-08-01", 1}, {"12-31-01", "01-01-02", 1},  {"02-28-24", "03-01-24", 2},
+      {"02-28-23", "03-01-23", 1}, {"02-29-00", "03-01-00", 1},  {"12-31-99", "01-01-00", 1},
+      {"3-7-01", "03-07-2001", 0}, {"03/07/01", "03-04-01", -3}, {"01-01-30", "01-01-29", 36160},
   };
   for (const auto& [from, to, days] : cases) {
     const auto first = CalendarDay(from);
@@ -66,15 +66,21 @@ TEST(CalendarDays, Differences_CrossMonthsLeapDaysAndTheCentury) {
 }
 
 TEST(CalendarDays, TextsThatAreNoDate_GiveNone) {
-  for (const char* text : {"", "--", "03-07", "03-07-", "02-29-23", "13-01-01", "00-10-01", "04-31-01", "aa-bb-cc",
-                           "03-07-0x", "03-07-12345", "today", "03-07-01-02"}) {
+  for (const char* text : {"", "--", "03-07", "03-07-", "02-29-23", "13-01-01", "00-10-01", "04-31-01",
+                           "aa-bb-cc", "03-07-0x", "03-07-12345", "today", "03-07-01-02"}) {
     EXPECT_FALSE(CalendarDay(text).has_value()) << text;
   }
 }
 
 TEST(CivilMilliseconds, ThereAndBack_KeepsEveryFieldAndKnowsTheWeekday) {
-  const CivilTime leap{.year = 2024, .month = 2, .day = 29, .hour = 23, .minute = 59, .second = 59,
-                       .millisecond = 999, .weekday = 4};
+  const CivilTime leap{.year = 2024,
+                       .month = 2,
+                       .day = 29,
+                       .hour = 23,
+                       .minute = 59,
+                       .second = 59,
+                       .millisecond = 999,
+                       .weekday = 4};
   EXPECT_EQ(CivilFromMilliseconds(MillisecondsFromCivil(leap)), leap);
   const CivilTime next = CivilFromMilliseconds(MillisecondsFromCivil(leap) + 1);
   EXPECT_EQ(MonthDayLongYear(next) + ' ' + DayName(next), "03-01-2024 Fri");

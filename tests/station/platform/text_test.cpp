@@ -16,8 +16,9 @@ TEST(CodePage, EveryByte_SurvivesUtf8AndBack) {
 
 TEST(CodePage, UpperHalf_IsWindows1252) {
   EXPECT_EQ(ToUtf8("\x80 \x8A \x9F \xE9"), "€ Š Ÿ é");
-  EXPECT_EQ(FromUtf8("Zoë’s “Café” – 5€"), "Zo\xEB\x92s \x93"
-                                           "Caf\xE9\x94 \x96 5\x80");
+  EXPECT_EQ(FromUtf8("Zoë’s “Café” – 5€"),
+            "Zo\xEB\x92s \x93"
+            "Caf\xE9\x94 \x96 5\x80");
 }
 
 TEST(CodePage, WhatItCannotHold_BecomesQuestionMarks) {
@@ -25,8 +26,9 @@ TEST(CodePage, WhatItCannotHold_BecomesQuestionMarks) {
     const char* utf8;
     const char* code_page;
   } cases[] = {
-      {"Łódź", "?\xF3"
-               "d?"},
+      {"Łódź",
+       "?\xF3"
+       "d?"},
       {"a😀b", "a?b"},
       {"caf\xE9.wav", "caf?.wav"},  // not UTF-8 at all: no control character may come of it
       {"\xE2\x82", "?"},            // cut in the middle of a character
@@ -51,10 +53,10 @@ TEST(Numbers, LeadingNumericPart_Counts) {
     double value;
     int whole;
   } cases[] = {
-      {"[New]", 0, 0},      {"", 0, 0},        {" 12.5 s", 12.5, 12}, {"\t30.0", 30, 30},      {"-3 days", -3, -3},
-      {"+7", 7, 7},         {".5", 0.5, 0},    {"-.75", -0.75, 0},    {"-", 0, 0},             {"--5", 0, 0},
-      {"inf", 0, 0},        {"nan", 0, 0},     {"-infinity", 0, 0},   {"30,5", 30, 30},        {"1.2.3", 1.2, 1},
-      {"1e400", 0, 0},      {"12abc", 12, 12}, {"x12", 0, 0},
+      {"[New]", 0, 0}, {"", 0, 0},        {" 12.5 s", 12.5, 12}, {"\t30.0", 30, 30}, {"-3 days", -3, -3},
+      {"+7", 7, 7},    {".5", 0.5, 0},    {"-.75", -0.75, 0},    {"-", 0, 0},        {"--5", 0, 0},
+      {"inf", 0, 0},   {"nan", 0, 0},     {"-infinity", 0, 0},   {"30,5", 30, 30},   {"1.2.3", 1.2, 1},
+      {"1e400", 0, 0}, {"12abc", 12, 12}, {"x12", 0, 0},
   };
   for (const auto& [text, value, whole] : cases) {
     EXPECT_DOUBLE_EQ(NumericValue(text), value) << text;
@@ -70,8 +72,8 @@ TEST(Numbers, FixedDecimals_RoundsHalvesAwayFromZero) {
     int decimals;
     const char* text;
   } cases[] = {
-      {30, 1, "30.0"}, {29.75, 1, "29.8"},   {0.25, 1, "0.3"},  {-0.25, 1, "-0.3"},   {-0.04, 1, "0.0"},
-      {2.5, 0, "3"},   {0.125, 2, "0.13"},   {0, 2, "0.00"},    {59.999, 2, "60.00"}, {3600.5, 0, "3601"},
+      {30, 1, "30.0"}, {29.75, 1, "29.8"}, {0.25, 1, "0.3"}, {-0.25, 1, "-0.3"},   {-0.04, 1, "0.0"},
+      {2.5, 0, "3"},   {0.125, 2, "0.13"}, {0, 2, "0.00"},   {59.999, 2, "60.00"}, {3600.5, 0, "3601"},
   };
   for (const auto& [value, decimals, text] : cases) EXPECT_EQ(FixedDecimals(value, decimals), text) << value;
 }
@@ -94,11 +96,21 @@ TEST(Patterns, MatchNamesAsTheOldPcDid) {
     const char* pattern;
     bool matches;
   } cases[] = {
-      {"M0001.DAT", "M*.DAT", true},  {"m0001.dat", "M*.DAT", true},   {"M0001.DAT.BAK", "M*.DAT", false},
-      {"LL01.DAT", "L*.DAT", true},   {"L001.DAT", "LL*.DAT", false},  {"TEMP.DAT", "?EMP.D?T", true},
-      {"EMP.DAT", "?EMP.DAT", false}, {"README", "*.*", true},         {"README", "*.DAT", false},
-      {"MON.TPD", "*.TPL;*.TPD", true}, {"MON.TPT", "*.TPL;*.TPD", false}, {"", "*", true},
-      {"S1.DAT", "", false},          {"aXbXc.DAT", "a*X*c.*", true},  {"CAF\xC9.TPP", "caf\xE9.*", true},
+      {"M0001.DAT", "M*.DAT", true},
+      {"m0001.dat", "M*.DAT", true},
+      {"M0001.DAT.BAK", "M*.DAT", false},
+      {"LL01.DAT", "L*.DAT", true},
+      {"L001.DAT", "LL*.DAT", false},
+      {"TEMP.DAT", "?EMP.D?T", true},
+      {"EMP.DAT", "?EMP.DAT", false},
+      {"README", "*.*", true},
+      {"README", "*.DAT", false},
+      {"MON.TPD", "*.TPL;*.TPD", true},
+      {"MON.TPT", "*.TPL;*.TPD", false},
+      {"", "*", true},
+      {"S1.DAT", "", false},
+      {"aXbXc.DAT", "a*X*c.*", true},
+      {"CAF\xC9.TPP", "caf\xE9.*", true},
   };
   for (const auto& [name, pattern, matches] : cases) {
     EXPECT_EQ(MatchesPattern(name, pattern), matches) << name << " against " << pattern;
