@@ -69,7 +69,7 @@ void QtTimers::RunDue() {
   while (const std::shared_ptr<Entry> entry = NextDue(round)) {  // shared: the tick may destroy its own timer
     entry->due += entry->interval;
     if (entry->due <= round) entry->due = round + entry->interval;  // missed shots are not made up for
-    // the tick may wait in a box, and the others go on meanwhile
+    Wake();  // the tick may wait in a box, and the others go on meanwhile
     entry->tick();
   }
   Wake();

@@ -2,11 +2,13 @@
 
 #include <gmock/gmock.h>
 
+#include <QApplication>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
 
 #include "desktop/sample_screen.h"
+#include "desktop/theme.h"
 #include "support/station_fixture.h"
 
 namespace quixair::testing {
@@ -214,9 +216,8 @@ TEST_F(BinderTest, StatusLine_CannotBeTypedInAndLosesItsLeadingBlanks) {
 }
 
 TEST_F(BinderTest, YellowGround_HasBlackText_InADarkThemeToo) {
-  QPalette dark;
-  dark.setColor(QPalette::Text, Qt::white);
-  form_.root.setPalette(dark);
+  WriteHostFile(folder_.path() / "desktop.conf", "[General]\ntheme=dark\n");
+  const desktop::ThemeSwitch theme(*qApp, folder_.path() / "desktop.conf");
   screen_->Status.SetBackColor(kYellow);
   Bind();
   form_.status->ensurePolished();

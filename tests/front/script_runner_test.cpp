@@ -99,6 +99,18 @@ TEST_F(Scripts, OnTheAir_ChannelsAreTraced) {
   EXPECT_EQ(played.out.substr(open, expected.size()), expected);
 }
 
+TEST_F(Scripts, ProgramEnded_NothingSoundsAndTimeGoesOn) {
+  AddLibrary(3, 2, 2, 30000);
+  const Played played = Play(
+      "start\nmenu RandomPlaybackMode\nclick RandomForm1.Start\nadvance 5s\nclose Console\nadvance "
+      "1m\nstart\n");
+  EXPECT_EQ(played.exit_code, 0) << played.errors;
+  const std::string expected =
+      "2026-11-22 20:00:05.000 end 0\n2026-11-22 20:01:05.000 screen Console open\n"
+      "2026-11-22 20:01:05.000 screen frmSplash open\n";
+  EXPECT_TRUE(played.out.ends_with(expected)) << played.out;
+}
+
 TEST_F(Scripts, WhatIsAskedFor_IsPrintedWithoutATime) {
   PutFile("QXAIR/CUSTOM.DTA", "\"Caf\xE9\"\r\n");
   const Played played = Play(

@@ -125,20 +125,23 @@ TEST(TheWorker, FillsTheRingWhileTheCallbackDrainsIt) {
 
 TEST(TheRenderToken, LetsOnlyOneRenderAtATime) {
   RenderToken token;
-  int rendering = 0;  // guarded by the token alone; the thread sanitizer watches it too
+  RenderToken::Owner rendering = 0;  // guarded by the token alone; the thread sanitizer watches it too
   std::atomic<bool> stop = false;
   std::atomic<int> clashes = 0;
+  std::array<std::atomic<int>, 2> blocks{};
   const auto render = [&](RenderToken::Owner owner) {
     while (!stop) {
       if (!token.TryEnter(owner)) continue;
-      if (++rendering != 1) ++clashes;
-      --rendering;
+      rendering = owner;
+      std::this_thread::yield();  // invites the other one in, on a single core too
+      if (rendering != owner) ++clashes;
       token.Leave();
+      ++blocks[owner];
     }
   };
   std::thread silence(render, RenderToken::kSilence);
   std::thread device(render, RenderToken::Owner{1});
-  for (RenderToken::Owner round = 0; round < 20'000; ++round) token.HandTo(round % 2);
+  for (RenderToken::Owner round = 0; blocks[0] < 500 || blocks[1] < 500; ++round) token.HandTo(round % 2);
   stop = true;
   silence.join();
   device.join();

@@ -140,6 +140,8 @@ const std::vector<MpegCase>& MpegCases() {
       {"TheSameTwiceInOneFile", [] { return Cbr() + Cbr(); }, 4100, 60},
       {"TwoRatesInOneFile", [] { return BytesOf(Sample("sweep_mono_22050.mp3")) + Cbr(); }, 4125, 60},
       {"WrappedAsWave", [] { return InWaveWrapper(Cbr()); }, 2000, 0},
+      {"WrappedAsWaveAndDamaged", [] { return InWaveWrapper(Damaged("sweep_cbr.mp3", 12'000, 2'400)); }, 1840,
+       120},
       {"OnlyThreeFrames", [] { return Cbr().substr(313, 3 * 313); }, 78, 27},
   };
   return cases;

@@ -19,6 +19,7 @@ TEST_F(ConsoleStartUp, RestartSwitchAndRecord_DecideWhatOpens) {
       {"running Random", "\"1\"\r\n", "\"1\"\r\n\"RANDOM\"\r\n\"\"\r\n\"\"\r\n", "RandomForm1"},
       {"running Pick-List", "\"1\"\r\n", "\"1\"\r\n\"PICKLIST\"\r\n\"A.TPP\"\r\n7\r\n", "NotBuilt"},
       {"clean record", "\"1\"\r\n", kCleanRecord, ""},
+      {"no run, yet a mode", "\"1\"\r\n", "\"0\"\r\n\"RANDOM\"\r\n\"\"\r\n\"\"\r\n", ""},
       {"switch off", "\"0\"\r\n", "\"1\"\r\n\"RANDOM\"\r\n\"\"\r\n\"\"\r\n", ""},
       {"switch neither", "\"yes\"\r\n", "\"1\"\r\n\"RANDOM\"\r\n\"\"\r\n\"\"\r\n", ""},
       {"switch missing", nullptr, "\"1\"\r\n\"RANDOM\"\r\n\"\"\r\n\"\"\r\n", ""},
