@@ -53,7 +53,7 @@ int main(int argc, char** argv) {
     dialogs.CloseAll();
     QApplication::exit(exit_code);
   };
-  const desktop::TerminationSignals session_end([&gate] { gate.Enter([] { EndProgram(); }); });
+  const desktop::TerminationSignals termination([&gate] { gate.Enter([] { EndProgram(); }); });
 
   gate.Enter([&screens] { screens.Open("Console"); });
   if (!gate.ended()) QApplication::exec();

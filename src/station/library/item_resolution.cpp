@@ -37,12 +37,12 @@ std::string SpotDateCaption(SpotDateSwitch value) {
 
 std::optional<std::string> SpotDateRefusal(std::string_view start_date, std::string_view kill_date,
                                            const CivilTime& today) {
-  const auto now = CalendarDay(MonthDayYear(today));
+  const auto now = CalendarDay(MonthDayYear(today), today.year);
   // A text that is no date, such as the "--" of an entry left empty, holds no spot back.
-  if (const auto start = CalendarDay(start_date); start && *start > *now) {
+  if (const auto start = CalendarDay(start_date, today.year); start && *start > *now) {
     return " [Start Date is " + std::to_string(*start - *now) + " days away]";
   }
-  if (const auto kill = CalendarDay(kill_date); kill && *kill < *now) {
+  if (const auto kill = CalendarDay(kill_date, today.year); kill && *kill < *now) {
     return " [Kill Date has Passed by " + std::to_string(*kill - *now) + " days]";
   }
   return std::nullopt;

@@ -38,9 +38,11 @@ std::optional<int> Number(std::string_view digits) {
   return value;
 }
 
-int WithCentury(int year) {
+int WithCentury(int year, int near_year) {
   if (year >= 100) return year;
-  return year < 30 ? 2000 + year : 1900 + year;
+  const int candidate = near_year - near_year % 100 + year;
+  if (candidate - near_year > 50) return candidate - 100;
+  return near_year - candidate >= 50 ? candidate + 100 : candidate;
 }
 
 }  // namespace
@@ -91,7 +93,7 @@ double SecondsSinceMidnight(const CivilTime& time) {
   return time.hour * 3600 + time.minute * 60 + time.second + (time.millisecond / 10) * 0.01;
 }
 
-std::optional<std::int64_t> CalendarDay(std::string_view month_day_year) {
+std::optional<std::int64_t> CalendarDay(std::string_view month_day_year, int near_year) {
   const std::size_t first = month_day_year.find_first_of("-/");
   if (first == std::string_view::npos) return std::nullopt;
   const std::size_t second = month_day_year.find_first_of("-/", first + 1);
@@ -100,7 +102,7 @@ std::optional<std::int64_t> CalendarDay(std::string_view month_day_year) {
   const auto day = Number(month_day_year.substr(first + 1, second - first - 1));
   const auto year = Number(month_day_year.substr(second + 1));
   if (!month || !day || !year) return std::nullopt;
-  const std::chrono::year_month_day date{std::chrono::year{WithCentury(*year)},
+  const std::chrono::year_month_day date{std::chrono::year{WithCentury(*year, near_year)},
                                          std::chrono::month{static_cast<unsigned>(*month)},
                                          std::chrono::day{static_cast<unsigned>(*day)}};
   if (!date.ok()) return std::nullopt;

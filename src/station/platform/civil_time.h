@@ -25,9 +25,9 @@ std::string DayName(const CivilTime& time);                 // "ddd": Mon
 
 double SecondsSinceMidnight(const CivilTime& time);
 
-/// A date text "mm-dd-yy" as days of the calendar. Two-digit years 00 to 29 are of this century's first, 30
-/// to 99 of the last one's. None when it is no date.
-std::optional<std::int64_t> CalendarDay(std::string_view month_day_year);
+/// A date text "mm-dd-yy" as days of the calendar; none when it is no date. A two-digit year is the one that
+/// lies nearest to `near_year`, so that a kill date some years ahead never reads as one of the last century.
+std::optional<std::int64_t> CalendarDay(std::string_view month_day_year, int near_year);
 
 /// Fields of a moment given as milliseconds of civil time since 1970, and back.
 CivilTime CivilFromMilliseconds(std::int64_t milliseconds);

@@ -55,11 +55,12 @@ TEST(CalendarDays, Differences_CrossMonthsLeapDaysAndTheCentury) {
   } cases[] = {
       {"03-07-01", "03-08-01", 1}, {"12-31-01", "01-01-02", 1},  {"02-28-24", "03-01-24", 2},
       {"02-28-23", "03-01-23", 1}, {"02-29-00", "03-01-00", 1},  {"12-31-99", "01-01-00", 1},
-      {"3-7-01", "03-07-2001", 0}, {"03/07/01", "03-04-01", -3}, {"01-01-30", "01-01-29", 36160},
+      {"3-7-01", "03-07-2001", 0}, {"03/07/01", "03-04-01", -3}, {"01-01-26", "12-31-30", 1825},
+      {"01-01-76", "01-01-77", -36159},
   };
   for (const auto& [from, to, days] : cases) {
-    const auto first = CalendarDay(from);
-    const auto second = CalendarDay(to);
+    const auto first = CalendarDay(from, 2026);
+    const auto second = CalendarDay(to, 2026);
     ASSERT_TRUE(first && second) << from << ' ' << to;
     EXPECT_EQ(*second - *first, days) << from << ' ' << to;
   }
@@ -68,7 +69,7 @@ TEST(CalendarDays, Differences_CrossMonthsLeapDaysAndTheCentury) {
 TEST(CalendarDays, TextsThatAreNoDate_GiveNone) {
   for (const char* text : {"", "--", "03-07", "03-07-", "02-29-23", "13-01-01", "00-10-01", "04-31-01",
                            "aa-bb-cc", "03-07-0x", "03-07-12345", "today", "03-07-01-02"}) {
-    EXPECT_FALSE(CalendarDay(text).has_value()) << text;
+    EXPECT_FALSE(CalendarDay(text, 2026).has_value()) << text;
   }
 }
 
