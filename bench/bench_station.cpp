@@ -106,7 +106,7 @@ std::unique_ptr<simulation::SimulatedStation> BenchStation::Start() const {
 std::vector<std::string> BenchStation::DataFiles() const {
   std::vector<std::string> files;
   for (const auto& entry : fs::directory_iterator(folder_ / "QXDATA")) {
-    if (entry.path().filename().string().front() == 'M') files.push_back(entry.path().string());
+    files.push_back(entry.path().string());
   }
   return files;
 }

@@ -22,7 +22,7 @@ class BenchStation {
 
   /// A program on this station in virtual time, from an evening's hour on.
   std::unique_ptr<simulation::SimulatedStation> Start() const;
-  /// The songs' data files on the host in their folder's order.
+  /// The data files on the host in their folder's order: a load opens each of them once.
   std::vector<std::string> DataFiles() const;
   const std::filesystem::path& folder() const { return folder_; }
 

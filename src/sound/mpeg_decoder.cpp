@@ -12,7 +12,7 @@ namespace {
 
 // Junk that is skipped in search of a frame. Without a limit a big file of zeros takes half a minute, and
 // noise plays.
-constexpr long kResyncBytes = 512 * 1024;
+constexpr long kResyncBytes = 512L * 1024;
 
 // So many frames in a row, each where the one before ends, are no accident; a shorter file must hold nothing
 // else.

@@ -1,4 +1,5 @@
 #include <SDL.h>
+#include <dlfcn.h>
 
 #include <chrono>
 #include <string_view>
@@ -13,6 +14,20 @@ namespace {
 constexpr const char* kDrivers = "pulseaudio,alsa";
 // 43 ms. A quarter of it had gaps on an idle machine.
 constexpr Uint16 kBufferFrames = 2048;
+
+void SayNothing(const char* /*file*/, int /*line*/, const char* /*function*/, int /*error*/,
+                const char* /*format*/, ...) {}
+
+/// The sound card library writes ten lines to the error output at every try to open a card that is not there: once a
+/// second, for weeks. The screen says it better.
+void HushSoundCardLibrary() {
+  using Handler = void (*)(const char*, int, const char*, int, const char*, ...);
+  using SetHandler = int (*)(Handler);
+  void* const library = dlopen("libasound.so.2", RTLD_LAZY);
+  if (library == nullptr) return;
+  const auto set_handler = reinterpret_cast<SetHandler>(dlsym(library, "snd_lib_error_set_handler"));
+  if (set_handler != nullptr) set_handler(&SayNothing);
+}
 
 class SdlDevice : public AudioDevice {
  public:
@@ -60,6 +75,7 @@ class SdlDriver : public AudioDriver {
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Quixair");
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_STREAM_NAME, "Program");
     SDL_SetHintWithPriority(SDL_HINT_AUDIODRIVER, kDrivers, SDL_HINT_NORMAL);
+    HushSoundCardLibrary();
     if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return false;
     // Nobody fetches them.
     SDL_EventState(SDL_AUDIODEVICEADDED, SDL_IGNORE);

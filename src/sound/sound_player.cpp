@@ -14,7 +14,7 @@ SoundPlayer::SoundPlayer(SoundSystem& system, std::size_t slot)
     : system_(system), slot_(slot), worker_(system.core_->mixer(), !system.core_->by_hand()) {}
 
 SoundPlayer::~SoundPlayer() {
-  Close();
+  PutOn(nullptr);
   system_.players_[slot_] = nullptr;
 }
 

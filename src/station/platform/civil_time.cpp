@@ -90,7 +90,8 @@ std::string DayName(const CivilTime& time) {
 }
 
 double SecondsSinceMidnight(const CivilTime& time) {
-  return time.hour * 3600 + time.minute * 60 + time.second + (time.millisecond / 10) * 0.01;
+  const int hundredths = time.millisecond / 10;
+  return time.hour * 3600 + time.minute * 60 + time.second + hundredths * 0.01;
 }
 
 std::optional<std::int64_t> CalendarDay(std::string_view month_day_year, int near_year) {
