@@ -10,7 +10,6 @@ namespace quixair {
 namespace {
 
 constexpr std::chrono::milliseconds kStartTimeTick{500};
-constexpr std::size_t kStartTimeLength = 8;
 
 std::string TwoDigits(int number) {
   std::string text = std::to_string(number);

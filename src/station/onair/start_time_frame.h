@@ -46,6 +46,7 @@ class StartTimeFrame {
 void FillStartTimeLists(ListBox& hours, ListBox& minutes, ListBox& halves);
 /// "hh:mm AM" from what is selected in them; shorter while one of them has no selection.
 std::string ChosenStartTime(const ListBox& hours, const ListBox& minutes, const ListBox& halves);
+inline constexpr std::size_t kStartTimeLength = 8;  // of a complete choice
 inline constexpr const char* kStartTimeIncomplete = "You must highlight the hour, minute, and AM or PM";
 
 }  // namespace quixair

@@ -6,10 +6,6 @@
 #include "station/platform/dialogs.h"
 
 namespace quixair {
-namespace {
-constexpr std::size_t kStartTimeLength = 8;
-}
-
 RandomForm2::RandomForm2(const Platform& platform) : Screen(platform, "RandomForm2", "Set Start Time") {
   for (ListBox* list : {&List1, &List2, &List3}) list->on_click = [this] { Choose(); };
   Command1.on_click = [this] { Done(); };

@@ -35,8 +35,7 @@ struct RunState {
   int OverlapActive = 0;
   int OverlapHandBack = 0;  // channel 2 finishes, channel 1 has the next item
   int StopSetActive = 0;    // the next step belongs to the day's stop sets
-  int StopSetIndex = 0;
-  int event_counter = 1;  // only counts in this mode
+  int event_counter = 1;    // only counts in this mode
   int first_event = 0;
   SteadyTime ItemStartTimer{};
   SteadyTime pause_started{};
@@ -45,7 +44,6 @@ struct RunState {
   double skipped_seconds_sum = 0;
   double paused_seconds_sum = 0;
   std::string TemplateName;
-  double TemplateSeconds = 0;
 };
 
 /// What the parts of the playback share.

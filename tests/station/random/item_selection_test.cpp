@@ -136,7 +136,6 @@ TEST_F(Selection, HistoryTableOverrun_EndsOneStepAndThenGoesOn) {
 TEST_F(Selection, Break_LosesOnePickAndNeverRepeatsAProduct) {
   FillPools(100, 5, 0);
   Fill(pools_.spots, 'S', 10, "A");
-  Pool others;
   for (int i = 0; i < 10; ++i)
     pools_.spots.Add({.RecordingId = "S20" + std::to_string(i),
                       .Drive = {},
