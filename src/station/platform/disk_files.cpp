@@ -1,15 +1,12 @@
 #include "station/platform/disk_files.h"
 
 #include <dirent.h>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
-#include <cstdio>
-#include <utility>
 
+#include "station/platform/host_file.h"
 #include "station/platform/text.h"
 
 namespace quixair {
@@ -17,60 +14,10 @@ namespace {
 
 constexpr std::chrono::milliseconds kFolderTimeGrain{50};
 
-class Descriptor {
- public:
-  explicit Descriptor(int fd) : fd_(fd) {}
-  ~Descriptor() {
-    if (fd_ >= 0) ::close(fd_);
-  }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  bool open() const { return fd_ >= 0; }
-  int get() const { return fd_; }
-  /// Some file systems tell a full disk only when the file is closed.
-  int Close() { return ::close(std::exchange(fd_, -1)); }
-
- private:
-  int fd_;
-};
-
 struct FolderCloser {
   void operator()(DIR* folder) const { ::closedir(folder); }
 };
 using OpenFolder = std::unique_ptr<DIR, FolderCloser>;
-
-RunTimeError FromErrno(int error) {
-  switch (error) {
-    case ENOENT:
-      return RunTimeError::kFileNotFound;
-    case ENOTDIR:
-      return RunTimeError::kPathNotFound;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-      return RunTimeError::kDiskFull;
-    case EACCES:
-    case EPERM:
-      return RunTimeError::kPermissionDenied;
-    case EROFS:
-    case EISDIR:
-    case EEXIST:
-    case ENOTEMPTY:
-      return RunTimeError::kPathFileAccess;
-    case EBUSY:
-    case ETXTBSY:
-      return RunTimeError::kFileAlreadyOpen;
-    case ENAMETOOLONG:
-    case EINVAL:
-      return RunTimeError::kBadFileName;
-    default:
-      return RunTimeError::kDeviceInputOutput;
-  }
-}
-
-RunTimeError LastError() {
-  return FromErrno(errno);
-}
 
 bool IsFolder(const std::string& host_path) {
   struct stat about {};
@@ -82,62 +29,29 @@ bool IsFile(const std::string& host_path) {
   return ::stat(host_path.c_str(), &about) == 0 && S_ISREG(about.st_mode);
 }
 
-Result<std::string> ReadAll(const std::string& host_path) {
-  Descriptor file(::open(host_path.c_str(), O_RDONLY | O_CLOEXEC));
-  if (!file.open()) return LastError();
-  // Nearly every file of a station is smaller than this: one read is all.
-  std::array<char, 4096> chunk;
-  std::string content;
-  for (;;) {
-    const ssize_t got = ::read(file.get(), chunk.data(), chunk.size());
-    if (got < 0 && errno == EINTR) continue;
-    if (got < 0) return LastError();
-    content.append(chunk.data(), static_cast<std::size_t>(got));
-    if (static_cast<std::size_t>(got) < chunk.size()) return content;  // of a file, that is its end
-  }
-}
-
-Status WriteAll(Descriptor& file, std::string_view bytes, bool flush) {
-  while (!bytes.empty()) {
-    const ssize_t put = ::write(file.get(), bytes.data(), bytes.size());
-    if (put < 0 && errno == EINTR) continue;
-    if (put < 0) return LastError();
-    bytes.remove_prefix(static_cast<std::size_t>(put));
-  }
-  if (flush && ::fdatasync(file.get()) != 0) return LastError();
-  if (file.Close() != 0) return LastError();
-  return {};
-}
-
-/// A new file outlives a power cut only when its folder's entry does.
-void FlushFolder(const std::string& folder) {
-  const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (opened.open()) ::fsync(opened.get());
-}
-
 }  // namespace
 
 Result<std::string> DiskFiles::Read(std::string_view path) {
   auto place = Locate(path);
   if (!place.ok()) return place.error();
-  Result<std::string> content = ReadAll(place.value().exact());
+  Result<std::string> content = host_file::ReadAll(place.value().exact());
   if (content.ok() || content.error() != RunTimeError::kFileNotFound) return content;
   const auto real = Existing(place.value());
-  if (real.ok()) return ReadAll(real.value());
+  if (real.ok()) return host_file::ReadAll(real.value());
   if (!ForgetMissingFolder(place.value())) return real.error();
   place = Locate(path);
-  return place.ok() ? ReadAll(place.value().exact()) : place.error();
+  return place.ok() ? host_file::ReadAll(place.value().exact()) : place.error();
 }
 
 Status DiskFiles::Write(std::string_view path, std::string_view bytes, Durability durability) {
-  return Put(path, bytes, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, durability);
+  return Put(path, bytes, host_file::Replace, durability);
 }
 
 Status DiskFiles::Append(std::string_view path, std::string_view bytes, Durability durability) {
-  return Put(path, bytes, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, durability);
+  return Put(path, bytes, host_file::AppendLines, durability);
 }
 
-Status DiskFiles::Put(std::string_view path, std::string_view bytes, int open_flags, Durability durability) {
+Status DiskFiles::Put(std::string_view path, std::string_view bytes, PutFunction put, Durability durability) {
   auto place = Locate(path);
   if (place.ok() && ForgetMissingFolder(place.value())) place = Locate(path);
   if (!place.ok()) return place.error();
@@ -146,12 +60,11 @@ Status DiskFiles::Put(std::string_view path, std::string_view bytes, int open_fl
   const bool is_new = !real.ok();
   if (!is_new) target = real.value();
   const bool index_held = is_new && NamedIndex(place.value().folder) != nullptr;
-  Descriptor file(::open(target.c_str(), open_flags, 0666));
-  if (!file.open()) return errno == ENOENT ? RunTimeError::kPathNotFound : LastError();
-  if (is_new) Remember(place.value().folder, place.value().name, index_held);
   const bool flush = durability == Durability::kFlushed && flushing_ == Flushing::kToDisk;
-  const Status written = WriteAll(file, bytes, flush);
-  if (is_new && flush) FlushFolder(place.value().folder);
+  const Status written = put(target, bytes, flush);
+  if (is_new && written.error() == RunTimeError::kFileNotFound) return RunTimeError::kPathNotFound;
+  if (is_new && IsFile(target)) Remember(place.value().folder, place.value().name, index_held);
+  if (is_new && flush) host_file::FlushFolder(place.value().folder);
   return written;
 }
 
@@ -161,7 +74,7 @@ Status DiskFiles::Delete(std::string_view path) {
   if (!place.ok()) return place.error();
   const auto real = Existing(place.value());
   if (!real.ok()) return real.error();
-  if (::unlink(real.value().c_str()) != 0) return LastError();
+  if (::unlink(real.value().c_str()) != 0) return host_file::LastError();
   return {};
 }
 
@@ -179,7 +92,7 @@ Status DiskFiles::MakeFolder(std::string_view path) {
     return RunTimeError::kPathFileAccess;
   }
   if (::mkdir(place.value().exact().c_str(), 0777) != 0) {
-    return errno == ENOENT ? RunTimeError::kPathNotFound : LastError();
+    return errno == ENOENT ? RunTimeError::kPathNotFound : host_file::LastError();
   }
   return {};
 }
@@ -193,7 +106,7 @@ Result<std::vector<std::string>> DiskFiles::List(std::string_view folder, std::s
   if (host_folder.ok() && ForgetMissingFolder({host_folder.value(), {}})) host_folder = HostFolder(folder);
   if (!host_folder.ok()) return host_folder.error();
   const FolderIndex* index = OrderedIndex(host_folder.value());
-  if (index == nullptr) return LastError();
+  if (index == nullptr) return host_file::LastError();
   std::vector<std::string> names;
   for (const Entry& entry : index->entries) {
     if (!entry.is_file) continue;

@@ -23,10 +23,10 @@ class Files {
 
   /// The whole content. 53 no such file, 76 no such folder, 71 no such drive, 70 or 75 not allowed.
   virtual Result<std::string> Read(std::string_view path) = 0;
-  /// Replaces the file by `bytes`, in one write. 61 when the disk is full.
+  /// Makes `bytes` the file's content, in one write. 61 when the disk is full, with the old content whole.
   virtual Status Write(std::string_view path, std::string_view bytes,
                        Durability durability = Durability::kOrdinary) = 0;
-  /// Adds `bytes` at the end, in one write; the first append makes the file.
+  /// Adds `bytes`, whole lines, at the end, in one write, or nothing of them; the first append makes the file.
   virtual Status Append(std::string_view path, std::string_view bytes,
                         Durability durability = Durability::kOrdinary) = 0;
   virtual Status Delete(std::string_view path) = 0;

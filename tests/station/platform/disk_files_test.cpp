@@ -1,10 +1,12 @@
 #include "station/platform/disk_files.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <csignal>
 
 #include "station/platform/text.h"
 #include "support/station_fixture.h"
@@ -74,14 +76,34 @@ TEST_F(DiskFilesTest, WrittenInAnotherCase_ReplacesTheFileThatIsThere) {
   ASSERT_TRUE(files_.Write("C:\\QXAIR\\OVERLAP.DTA", "new", kOrdinary).ok());
   EXPECT_EQ(HostText("QXAIR/overlap.dta"), "new");
   EXPECT_FALSE(fs::exists(Host("QXAIR/OVERLAP.DTA")));
-  ASSERT_TRUE(files_.Append("C:\\qxair\\OVERLAP.dta", "+more", Durability::kFlushed).ok());
-  EXPECT_EQ(HostText("QXAIR/overlap.dta"), "new+more");
+  ASSERT_TRUE(files_.Write("C:\\qxair\\OVERLAP.dta", "longer again", Durability::kFlushed).ok());
+  EXPECT_EQ(HostText("QXAIR/overlap.dta"), "longer again");
 }
 
 TEST_F(DiskFilesTest, Append_MakesTheFile) {
   ASSERT_TRUE(files_.Append("C:\\QXAIR\\QXERROR.LOG", "one\r\n", Durability::kFlushed).ok());
   ASSERT_TRUE(files_.Append("C:\\QXAIR\\QXERROR.LOG", "two\r\n", Durability::kFlushed).ok());
   EXPECT_EQ(HostText("QXAIR/QXERROR.LOG"), "one\r\ntwo\r\n");
+}
+
+TEST_F(DiskFilesTest, Append_EndsALineThatAPowerCutTore) {
+  PutHost("QXAIR/QXERROR.LOG", "\"one\"\r\n\"tw");
+  ASSERT_TRUE(files_.Append("C:\\QXAIR\\QXERROR.LOG", "\"three\"\r\n", Durability::kFlushed).ok());
+  EXPECT_EQ(HostText("QXAIR/QXERROR.LOG"), "\"one\"\r\n\"tw\r\n\"three\"\r\n");
+}
+
+TEST_F(DiskFilesTest, AppendWithoutRoom_LeavesNoHalfLine) {
+  PutHost("QXAIR/QXERROR.LOG", "\"one\"\r\n");
+  rlimit old_limit{};
+  ::getrlimit(RLIMIT_FSIZE, &old_limit);
+  const auto old_handler = std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit room_for_a_few{.rlim_cur = 12, .rlim_max = old_limit.rlim_max};
+  ::setrlimit(RLIMIT_FSIZE, &room_for_a_few);
+  const Status appended = files_.Append("C:\\QXAIR\\QXERROR.LOG", "\"two\"\r\n", kOrdinary);
+  ::setrlimit(RLIMIT_FSIZE, &old_limit);
+  std::signal(SIGXFSZ, old_handler);
+  EXPECT_EQ(appended.number(), 61);
+  EXPECT_EQ(HostText("QXAIR/QXERROR.LOG"), "\"one\"\r\n");
 }
 
 TEST_F(DiskFilesTest, FilesOfAnySize_AreReadWhole) {
