@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -123,9 +124,13 @@ void StationFixture::AddSpot(std::string_view id, int milliseconds, std::string_
 }
 
 void StationFixture::PutRotation(const std::vector<std::string>& spot_ids) {
+  PutTemplate("ROTATWIN.DTA", spot_ids);
+}
+
+void StationFixture::PutTemplate(std::string_view name, const std::vector<std::string>& ids) {
   std::vector<TemplateEvent> events;
-  for (const std::string& id : spot_ids) events.push_back({id, "Spot"});
-  PutFile("QXTEMPLT/ROTATWIN.DTA", FormatTemplate(events));
+  for (const std::string& id : ids) events.push_back({id, "Title"});
+  PutFile("QXTEMPLT/" + std::string(name), FormatTemplate(events));
 }
 
 void StationFixture::PutSettings(const RandomSettings& settings) {
@@ -141,6 +146,18 @@ void StationFixture::AddLibrary(int songs, int liners, int legal_ids, int millis
 void StationFixture::StartConsole() {
   station_.StartProgram();
   station_.OpenConsole();
+}
+
+void StationFixture::StartRandomWith(std::string_view template_name) {
+  StartConsole();
+  Menu("RandomPlaybackMode");
+  for (const char* name : {"File1", "File2"}) {
+    auto& list = Find<FileListBox>("RandomForm1", name);
+    const auto row = std::find(list.rows().begin(), list.rows().end(), template_name);
+    if (row != list.rows().end()) list.PersonSelects({static_cast<int>(row - list.rows().begin())});
+  }
+  Click("RandomForm1", "Done");
+  Click("RandomForm1", "Start");
 }
 
 void StationFixture::StartRandom() {

@@ -66,6 +66,8 @@ class StationFixture : public ::testing::Test {
                std::string_view start = "", std::string_view kill = "", std::string_view account = "Account");
   void PutRotation(const std::vector<std::string>& spot_ids);
   void PutSettings(const RandomSettings& settings);
+  /// A template of the given ids; a time of the day opens a stop set.
+  void PutTemplate(std::string_view name, const std::vector<std::string>& ids);
   /// Songs M0001..., liners L0001..., legal ids LL001..., each of the given length.
   void AddLibrary(int songs, int liners, int legal_ids, int milliseconds = 10000);
 
@@ -73,6 +75,8 @@ class StationFixture : public ::testing::Test {
   void StartConsole();
   /// Opens Random playback from the console's menu and presses START.
   void StartRandom();
+  /// Opens Random playback, chooses a template in its frame and presses START.
+  void StartRandomWith(std::string_view template_name);
   void Menu(std::string_view item);
   void Click(std::string_view screen, std::string_view button);
   void Advance(std::chrono::milliseconds span) { station_.time().Advance(span); }

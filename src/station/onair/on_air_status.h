@@ -3,6 +3,8 @@
 // What a playback screen tells a front end that draws more than plain controls: a progress bar, level meters,
 // a state that is readable from across a room. Read as often as one likes, on the user interface thread.
 
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace quixair {
@@ -17,6 +19,27 @@ enum class AirState {
   kSilent,  // a run is on, and nothing sounds
 };
 
+enum class StopSetState {
+  kOff,        // the settings ask for none, or the operator declined
+  kNotChosen,  // the operator has yet to choose a template
+  kMissing,    // the template was not found
+  kWrongDay,   // the template is of another day
+  kScanning,   // waiting for the next time
+  kDue,        // plays when the item on the air ends
+  kPlaying,
+  kPaused,  // in a set, until the operator goes on or the override has run out
+};
+
+struct StopSetStatus {
+  StopSetState state = StopSetState::kOff;
+  std::string template_name;
+  int set_count = 0;                    // times of the day in the template
+  int total_seconds = 0;                // of all its recordings
+  std::string next_time;                // of the set that comes next, "06:30 PM"; empty for none today
+  int minutes_to_next = 0;              // whole minutes until then
+  std::optional<int> override_seconds;  // left of a pause in a set; none when the override is off
+};
+
 struct OnAirStatus {
   AirState state = AirState::kReady;
   bool stop_set = false;       // the item belongs to a stop set
@@ -29,6 +52,8 @@ class OnAirScreen {
   virtual OnAirStatus on_air_status() const = 0;
   /// The channels that can sound, for their meters.
   virtual std::vector<MediaControl*> sounding_channels() = 0;
+  /// None on a screen that has no stop sets.
+  virtual std::optional<StopSetStatus> stop_set_status() const { return std::nullopt; }
 
  protected:
   ~OnAirScreen() = default;

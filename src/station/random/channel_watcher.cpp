@@ -1,6 +1,7 @@
 #include "station/random/channel_watcher.h"
 
 #include "station/platform/text.h"
+#include "station/random/day_scheduler.h"
 #include "station/random/random_form1.h"
 #include "station/random/random_playback.h"
 
@@ -12,7 +13,7 @@ MediaControl& ChannelWatcher::channel(int number) {
 
 void ChannelWatcher::Tick() {
   context_.screen.Channels.UpdateLabels();
-  // The change of the day's template at midnight comes here.
+  scheduler_.ChangeAtMidnight();
   if (context_.run.PauseNextPending == 1) {
     context_.run.PauseNextPending = 0;
     context_.run.AudioPaused = 0;
@@ -28,7 +29,7 @@ void ChannelWatcher::Tick() {
   EndSecond();
   EndThird();
   DropEmptyChannels();
-  // The scan of the day's stop sets comes here.
+  scheduler_.Scan();
 }
 
 void ChannelWatcher::ShowElapsed() {
@@ -42,8 +43,8 @@ bool ChannelWatcher::WaitWhilePaused() {
   if (run.AudioPaused != 1) return false;
   ShowElapsed();
   const int override_seconds = context_.settings.PauseOverrideSecs;
-  if (run.StopSetActive == 1 && override_seconds != 0 && run.ElapsedSecs >= override_seconds)
-    controls_.BeginNext();
+  const bool in_set = run.StopSetActive == 1 || run.override_outlives_set;
+  if (in_set && override_seconds != 0 && run.ElapsedSecs >= override_seconds) controls_.BeginNext();
   return true;
 }
 

@@ -7,6 +7,7 @@
 
 namespace quixair {
 
+class DayScheduler;
 class SequencingEngine;
 class RunControls;
 class MediaControl;
@@ -14,8 +15,9 @@ struct RandomContext;
 
 class ChannelWatcher {
  public:
-  ChannelWatcher(RandomContext& context, SequencingEngine& engine, RunControls& controls)
-      : context_(context), engine_(engine), controls_(controls) {}
+  ChannelWatcher(RandomContext& context, SequencingEngine& engine, RunControls& controls,
+                 DayScheduler& scheduler)
+      : context_(context), engine_(engine), controls_(controls), scheduler_(scheduler) {}
   void Tick();
 
  private:
@@ -36,6 +38,7 @@ class ChannelWatcher {
   RandomContext& context_;
   SequencingEngine& engine_;
   RunControls& controls_;
+  DayScheduler& scheduler_;
 };
 
 }  // namespace quixair

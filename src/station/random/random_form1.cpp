@@ -63,6 +63,10 @@ OnAirStatus RandomForm1::on_air_status() const {
   return status;
 }
 
+std::optional<StopSetStatus> RandomForm1::stop_set_status() const {
+  return playback_->scheduler().status();
+}
+
 std::vector<MediaControl*> RandomForm1::sounding_channels() {
   return {&Channels.MMControl1, &Channels.MMControl2};
 }

@@ -26,6 +26,7 @@ class RandomForm1 : public Screen, public OnAirScreen {
   void Load() override;
   OnAirStatus on_air_status() const override;
   std::vector<MediaControl*> sounding_channels() override;
+  std::optional<StopSetStatus> stop_set_status() const override;
 
   // what is on the air and around it
   TextBox Text1{*this, "Text1", TextBox::Use::kShow};  // status line

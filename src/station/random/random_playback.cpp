@@ -31,14 +31,18 @@ RandomPlayback::RandomPlayback(RandomForm1& screen)
                .settings = {},
                .pools = {},
                .rotation = {},
+               .stop_sets = {},
                .run = {},
                .verification_on = true,
                .faults = AirFaultLog(screen.platform().files, screen.platform().clock, ModeLetter::kRandom,
                                      [&screen](std::string row) { screen.AddErrorRow(std::move(row)); })},
       engine_(context_),
       controls_(context_, engine_),
-      watcher_(context_, engine_, controls_) {
+      scheduler_(context_),
+      watcher_(context_, engine_, controls_, scheduler_),
+      overlap_(context_, engine_) {
   engine_.press_start = [this] { controls_.Start(); };
+  scheduler_.press_start = [this] { controls_.Start(); };
   ConnectControls();
   ConnectSwitches();
 }
@@ -64,6 +68,7 @@ void RandomPlayback::ConnectControls() {
   screen.Refresh.on_click = [this] { Load(); };
   screen.Timer1.on_tick = [this] { controls_.StartWhenDue(); };
   screen.Timer2.on_tick = [this] { watcher_.Tick(); };
+  screen.Timer3.on_tick = [this] { overlap_.Tick(); };
   screen.Timer4.on_tick = [this] { LoadStatus(false); };
   screen.Channels.ConnectBars([this] { return controls_.BarMayContinue(true); },
                               [this] { return controls_.BarMayContinue(false); },
@@ -224,10 +229,21 @@ void RandomPlayback::ReadSettings() {
 }
 
 void RandomPlayback::LoadStatus(bool at_load) {
-  if (at_load) rotation_missing_ = false;
+  RunState& run = context_.run;
+  if (at_load) {
+    rotation_missing_ = false;
+    scheduler_.Reset();
+  }
   ReadSettings();
-  if (!at_load || !ReadRestartRecord(context_.platform.files).running) return;
-  AnnounceRestart();
+  const RestartRecord record = at_load ? ReadRestartRecord(context_.platform.files) : RestartRecord();
+  run.RestartPending = record.running ? 1 : 0;
+  if (record.running) AnnounceRestart();
+  if (context_.settings.BreakType == break_type::kScheduledStopSet) {
+    scheduler_.PrepareTemplateChoice();
+    if (record.running) scheduler_.TakeTemplate(record.template_name);  // starts the run when it is found
+  }
+  if (run.RestartPending != 1) return;
+  run.RestartPending = 0;
   controls_.Start();
 }
 

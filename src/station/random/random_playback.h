@@ -1,8 +1,8 @@
 #pragma once
 
-// What plays on RandomForm1: its library in pools, the state of the run, and the three that act on it:
-// SequencingEngine decides and starts items, ChannelWatcher notices that they end, RunControls is the
-// operator. The screen owns one of these.
+// What plays on RandomForm1: its library in pools, the state of the run, and those that act on it:
+// SequencingEngine decides and starts items, ChannelWatcher notices that they end, OverlapWatcher that they
+// are about to, DayScheduler that a stop set is due, RunControls is the operator. The screen owns one of these.
 
 #include <string>
 
@@ -10,12 +10,15 @@
 #include "station/platform/clock.h"
 #include "station/platform/platform.h"
 #include "station/random/channel_watcher.h"
+#include "station/random/day_scheduler.h"
 #include "station/random/item_selection.h"
+#include "station/random/overlap_watcher.h"
 #include "station/random/random_settings.h"
 #include "station/random/rotation_pools.h"
 #include "station/random/rotation_state.h"
 #include "station/random/run_controls.h"
 #include "station/random/sequencing_engine.h"
+#include "station/random/stop_set_list.h"
 
 namespace quixair {
 
@@ -33,9 +36,11 @@ struct RunState {
   int requeue = 0;
   int ActiveChannel = 1;  // 1, 2, or 99 while channel 1 is being closed after an overlap
   int OverlapActive = 0;
-  int OverlapHandBack = 0;  // channel 2 finishes, channel 1 has the next item
-  int StopSetActive = 0;    // the next step belongs to the day's stop sets
-  int event_counter = 1;    // only counts in this mode
+  int OverlapHandBack = 0;             // channel 2 finishes, channel 1 has the next item
+  int StopSetActive = 0;               // the next step belongs to the day's stop sets
+  int StopSetIndex = 0;                // row of the set's time, then of the item in play
+  bool override_outlives_set = false;  // a pause in a set that the change of the day took away
+  int event_counter = 1;               // only counts in this mode
   int first_event = 0;
   SteadyTime ItemStartTimer{};
   SteadyTime pause_started{};
@@ -43,7 +48,8 @@ struct RunState {
   double AiredSecondsSum = 0;
   double skipped_seconds_sum = 0;
   double paused_seconds_sum = 0;
-  std::string TemplateName;
+  int RestartPending = 0;    // the load found the record of a run that a power cut ended
+  std::string TemplateName;  // "MON.TPD", a custom name, or "Null" when the operator declined
 };
 
 /// What the parts of the playback share.
@@ -53,6 +59,7 @@ struct RandomContext {
   RandomSettings settings;
   RotationPools pools;
   RotationState rotation;
+  StopSetList stop_sets;
   RunState run;
   bool verification_on = true;
   AirFaultLog faults;
@@ -66,6 +73,7 @@ class RandomPlayback {
   /// is too small.
   void Load();
   const RandomContext& context() const { return context_; }
+  const DayScheduler& scheduler() const { return scheduler_; }
 
  private:
   void ConnectControls();
@@ -89,7 +97,9 @@ class RandomPlayback {
   RandomContext context_;
   SequencingEngine engine_;
   RunControls controls_;
+  DayScheduler scheduler_;
   ChannelWatcher watcher_;
+  OverlapWatcher overlap_;
   bool rotation_missing_ = false;  // breaks stay off until the next load
   SteadyTime last_progress_{};
 };

@@ -81,6 +81,7 @@ void RunControls::Continue() {
   screen.Channels.ResumeAll();
   screen.Text1.SetText(PlaybackText(run.StopSetActive == 1));
   run.AudioPaused = 0;
+  run.override_outlives_set = false;
   for (Button* button :
        {&screen.PauseCommand, &screen.RequeueCommand, &screen.BeginNextCommand, &screen.GoLive}) {
     button->Enable();

@@ -53,7 +53,13 @@ void SequencingEngine::Step() {
     HoldForLive();
     return;
   }
-  if (!ChooseItem(item_)) return;
+  if (!TakeLegalId(item_)) {
+    if (run.StopSetActive == 1) {
+      PlayStopSetRow();
+      return;
+    }
+    if (!selection_.Choose(last_item_id_, item_)) return;
+  }
   const WorkingItem item = item_;  // a nested step chooses anew; this one goes on with its own
   StartItem(item);
 }
@@ -80,7 +86,8 @@ void SequencingEngine::HoldForLive() {
   screen.RequeueCommand.Disable();
 }
 
-bool SequencingEngine::ChooseItem(WorkingItem& item) {
+/// Comes before the stop set too.
+bool SequencingEngine::TakeLegalId(WorkingItem& item) {
   switch (selection_.TakeLegalIdWhenDue(context_.platform.clock.Now().minute, item)) {
     case ItemSelection::LegalId::kBeforeTheHour:
       context_.screen.Text3.SetText(item.RecordingId);
@@ -90,20 +97,17 @@ bool SequencingEngine::ChooseItem(WorkingItem& item) {
     case ItemSelection::LegalId::kNone:
       break;
   }
-  // A due stop set takes its turn here, before the rotation.
-  return selection_.Choose(last_item_id_, item);
+  return false;
 }
 
 void SequencingEngine::StartItem(const WorkingItem& item) {
-  std::string extension;
   Started started;
   if (IsSpotId(item.RecordingId)) CheckSpot(item);
   ShowHint(item);
   ShowItem(item);
   CloseIdleChannel();
   Play(1, started);
-  StartOnIdleChannel(item, extension, started);
-  StartOverlapped(item, extension, started);
+  StartOnFreeChannel(item, started);
   Verify(item, started);
   FinishStep();
 }
@@ -115,15 +119,21 @@ void SequencingEngine::CheckSpot(const WorkingItem& item) {
     PlayNextItem();
     return;
   }
-  const std::vector<std::string> fields = ReadLeadingFields(files, item.RecordingId, 7);
-  const SpotDateSwitch date_check = ReadSpotDateSwitch(files);
-  if (date_check == SpotDateSwitch::kUnknown) context_.screen.Check4.SetCaption(SpotDateCaption(date_check));
-  if (date_check != SpotDateSwitch::kOn) return;
-  const auto refusal = SpotDateRefusal(fields[5], fields[6], context_.platform.clock.Now());
+  const auto refusal = RefusalOfSpot(item.RecordingId);
   if (!refusal) return;
   ++context_.run.event_counter;
   Refuse(item.RecordingId + *refusal);
   PlayNextItem();
+}
+
+std::optional<std::string> SequencingEngine::RefusalOfSpot(const std::string& id) {
+  if (!IsSpotId(id)) return std::nullopt;
+  Files& files = context_.platform.files;
+  const SpotDateSwitch date_check = ReadSpotDateSwitch(files);
+  if (date_check == SpotDateSwitch::kUnknown) context_.screen.Check4.SetCaption(SpotDateCaption(date_check));
+  if (date_check != SpotDateSwitch::kOn) return std::nullopt;
+  const std::vector<std::string> fields = ReadLeadingFields(files, id, 7);
+  return SpotDateRefusal(fields[5], fields[6], context_.platform.clock.Now());
 }
 
 void SequencingEngine::Refuse(const std::string& row) {
@@ -179,25 +189,28 @@ void SequencingEngine::Play(int number, Started& started) {
   screen.CurrLabel[4].SetCaption('(' + channel.file_name() + ')');
 }
 
-void SequencingEngine::StartOnIdleChannel(const WorkingItem& item, std::string& extension, Started& started) {
-  if (context_.screen.Channels.MMControl1.Mode() == ChannelMode::kPlaying) return;
-  OpenAndPlay(1, item, extension, started);
+/// Channel 1 when it does not play; channel 2 when it does and the overlap wants a second item. Behind a
+/// nested step the replacement is on the air already, and nothing more is opened.
+void SequencingEngine::StartOnFreeChannel(const WorkingItem& item, Started& started) {
+  const ChannelBank& channels = context_.screen.Channels;
+  if (channels.MMControl1.Mode() != ChannelMode::kPlaying) {
+    OpenAndPlay(1, item, started);
+  } else if (context_.run.OverlapActive == 1) {
+    if (channels.MMControl2.Mode() == ChannelMode::kPlaying) {
+      Play(2, started);
+    } else {
+      OpenAndPlay(2, item, started);
+    }
+  }
 }
 
-void SequencingEngine::StartOverlapped(const WorkingItem& item, std::string& extension, Started& started) {
-  if (context_.run.OverlapActive != 1) return;
-  if (context_.screen.Channels.MMControl1.Mode() != ChannelMode::kPlaying) return;
-  OpenAndPlay(2, item, extension, started);
-}
-
-void SequencingEngine::OpenAndPlay(int number, const WorkingItem& item, std::string& extension,
-                                   Started& started) {
+void SequencingEngine::OpenAndPlay(int number, const WorkingItem& item, Started& started) {
   MediaControl& channel = context_.screen.Channels.channel(number);
-  // With neither file there, the extension stays as it was, and the path that cannot be opened is what gets
-  // reported.
-  if (auto found = FindAudioFile(context_.platform.files, item.Drive, item.RecordingId))
-    extension = std::move(*found);
-  if (OpenFile(channel, station_paths::AudioFile(item.Drive, item.RecordingId, extension)) == 0) {
+  // With neither file there, the path without an extension cannot be opened, and is what gets reported.
+  const auto extension = FindAudioFile(context_.platform.files, item.Drive, item.RecordingId);
+  const std::string path =
+      station_paths::AudioFile(item.Drive, item.RecordingId, extension.value_or(std::string()));
+  if (OpenFile(channel, path) == 0) {
     ReportEmpty(channel);
     channel.Command("Close");
     PlayNextItem();
@@ -225,6 +238,8 @@ void SequencingEngine::Verify(const WorkingItem& item, const Started& started) {
   if (written.error() == RunTimeError::kDiskFull) {
     context_.screen.Text3.SetText(kDriveFullWarning);
     context_.screen.Text3.Show();
+  } else if (written.ok() && context_.screen.Text3.text() == kDriveFullWarning) {
+    context_.screen.Text3.SetText("");  // there is room again
   }
 }
 

@@ -19,6 +19,7 @@ namespace quixair {
 
 class MediaControl;
 struct RandomContext;
+struct StopSetRow;
 
 class SequencingEngine {
  public:
@@ -39,22 +40,31 @@ class SequencingEngine {
   void Step();
   void RememberLastItem();
   void HoldForLive();
-  bool ChooseItem(WorkingItem& item);
+  bool TakeLegalId(WorkingItem& item);
   void StartItem(const WorkingItem& item);
 
   void CheckSpot(const WorkingItem& item);
+  /// Why a spot's dates keep it off the air today, when the check is on; none for any other kind.
+  std::optional<std::string> RefusalOfSpot(const std::string& id);
   void Refuse(const std::string& row);
   void ShowHint(const WorkingItem& item);
   void ShowItem(const WorkingItem& item);
   void CloseIdleChannel();
-  void StartOnIdleChannel(const WorkingItem& item, std::string& extension, Started& started);
-  void StartOverlapped(const WorkingItem& item, std::string& extension, Started& started);
-  void OpenAndPlay(int number, const WorkingItem& item, std::string& extension, Started& started);
+  void StartOnFreeChannel(const WorkingItem& item, Started& started);
+  void OpenAndPlay(int number, const WorkingItem& item, Started& started);
   void Play(int number, Started& started);
   void ReportEmpty(const MediaControl& channel);
   void Verify(const WorkingItem& item, const Started& started);
   void FinishStep();
   bool AnythingSounds();
+
+  // stop_set_step.cpp
+  void PlayStopSetRow();
+  void PauseInStopSet(const StopSetRow& row);
+  void AnnounceTime();
+  void PlayStopSetRecording(int number);
+  void ShowStopSetItem(const WorkingItem& item);
+  void PlayOnFirst(const std::string& path);
 
   RandomContext& context_;
   ItemSelection selection_;

@@ -1,0 +1,265 @@
+#include "station/random/day_scheduler.h"
+
+#include <algorithm>
+
+#include "station/console/settings_files.h"
+#include "station/console/station_paths.h"
+#include "station/console/value_form.h"
+#include "station/platform/civil_time.h"
+#include "station/platform/dialogs.h"
+#include "station/platform/text.h"
+#include "station/random/random_form1.h"
+#include "station/random/random_playback.h"
+
+namespace quixair {
+namespace {
+
+constexpr std::string_view kNoTemplate = "Null";
+constexpr const char* kReadyText = "Ready to Begin Playback.  Press START to begin, or QUIT to Exit";
+constexpr std::int64_t kMillisecondsOfDay = 86400000;
+
+bool IsDailyName(std::string_view template_name) {
+  return KindOfTemplate(template_name) == TemplateKind::kSatDaily;
+}
+
+/// "MON" of "Mon.tpd", and of a Monday.
+std::string DayOf(std::string_view template_name) {
+  return UpperCased(template_name.substr(0, 3));
+}
+std::string DayOf(const CivilTime& now) {
+  return UpperCased(DayName(now));
+}
+
+bool IsOfAnotherDay(std::string_view template_name, const CivilTime& now) {
+  return IsDailyName(template_name) && DayOf(template_name) != DayOf(now);
+}
+
+}  // namespace
+
+DayScheduler::DayScheduler(RandomContext& context) : context_(context) {
+  ConnectChoice();
+}
+
+void DayScheduler::ConnectChoice() {
+  RandomForm1& screen = context_.screen;
+  const auto connect = [this, &screen](FileListBox& list, FileListBox& other) {
+    list.on_click = [&screen, &other] {
+      other.Select(-1);
+      screen.Done.Enable();
+    };
+    list.on_double_click = [this] { ChooseFrom(true); };
+    list.on_enter = [this] { ChooseFrom(false); };
+  };
+  connect(screen.File1, screen.File2);
+  connect(screen.File2, screen.File1);
+  screen.Done.on_click = [this] { ChooseFrom(false); };
+  screen.Quit.on_click = [this] { DeclineChoice(); };
+}
+
+void DayScheduler::Reset() {
+  choice_prepared_ = false;
+}
+
+void DayScheduler::PrepareTemplateChoice() {
+  if (choice_prepared_) return;
+  RandomForm1& screen = context_.screen;
+  RunState& run = context_.run;
+  screen.Text1.SetText(
+      run.RestartPending == 1
+          ? "A problem occured and your system has been restarted..."
+          : "Select an Existing Template for Playback by Double Clicking or pressing <Enter>...");
+  screen.Done.Disable();
+  screen.Start.Disable();
+  screen.File1.SetPath(std::string(station_paths::kTemplateFolder));
+  screen.File1.SetPattern("*.TPL");
+  screen.File2.SetPath(std::string(station_paths::kTemplateFolder));
+  screen.File2.SetPattern("*.TPD");
+  if (run.TemplateName.empty()) {
+    screen.Frame2.Show();
+    screen.File2.SetFocus();
+  }
+  choice_prepared_ = true;
+  run.TemplateName =
+      ReadSetting(context_.platform.files, station_paths::kRandomTemplate).value_or(std::string());
+}
+
+void DayScheduler::ChooseFrom(bool double_click) {
+  const RandomForm1& screen = context_.screen;
+  const FileListBox& list = screen.File1.selected_index() >= 0 ? screen.File1 : screen.File2;
+  if (list.selected_index() < 0) return;
+  if (double_click) {
+    SkipAndGoOn(WriteNumberSetting(context_.platform.files, station_paths::kSatCorrection, 0));
+  }
+  TakeTemplate(list.selected_text());
+}
+
+void DayScheduler::TakeTemplate(const std::string& name) {
+  RandomForm1& screen = context_.screen;
+  context_.run.TemplateName = name;
+  SkipAndGoOn(context_.platform.files.Write(station_paths::kRandomTemplate,
+                                            WriteForm().Text(name).Text("1").Number(0).bytes(),
+                                            Durability::kFlushed));
+  screen.Frame2.Hide();
+  screen.Start.Enable();
+  screen.Command4.Enable();
+  if (context_.run.RestartPending != 1) screen.Text1.SetText(kReadyText);
+  LoadSatTemp();
+}
+
+void DayScheduler::DeclineChoice() {
+  RandomForm1& screen = context_.screen;
+  context_.platform.dialogs.MessageBox(
+      "Playback will be possible, but there will be no \nStop-Set files played in the rotation...",
+      box_style::kOk, "No File Selected");
+  context_.run.TemplateName = kNoTemplate;
+  SkipAndGoOn(WriteTextSetting(context_.platform.files, station_paths::kRandomTemplate, kNoTemplate));
+  screen.Frame2.Hide();
+  screen.Start.Enable();
+  screen.Command4.Enable();
+  LoadSatTemp();
+}
+
+void DayScheduler::LoadSatTemp() {
+  RandomForm1& screen = context_.screen;
+  RunState& run = context_.run;
+  run.StopSetActive = 0;
+  run.StopSetIndex = 0;
+  screen.List7.Clear();
+  screen.List7.AddRow("--Stop-Set Rotation List--");
+  screen.Label8.SetCaption(run.TemplateName);
+  const std::string path = station_paths::TemplateFile(run.TemplateName);
+  const Result<std::string> content = context_.platform.files.Read(path);
+  template_load_failed_ = !content.ok();
+  if (template_load_failed_) {
+    context_.stop_sets = StopSetList();
+    TellMissing();
+    return;
+  }
+  context_.stop_sets = StopSetList::Load(context_.platform.files, content.value());
+  ShowRows();
+  if (!IsOfAnotherDay(run.TemplateName, context_.platform.clock.Now())) screen.Label9.Hide();
+  if (run.RestartPending != 1) return;
+  run.RestartPending = 0;
+  screen.Frame2.Hide();
+  press_start();
+}
+
+void DayScheduler::TellMissing() {
+  RandomForm1& screen = context_.screen;
+  screen.Text7.Hide();
+  screen.Label9.SetCaption(" NO SCHEDULED PLAYBACK WILL TAKE PLACE TODAY.  THE TEMPLATE " +
+                           context_.run.TemplateName +
+                           " WAS NOT FOUND. WAITING UNTIL MIDNIGHT TO LOAD NEXT DAY.  RANDOM PLAYBACK WILL "
+                           "CONTINUE");
+  screen.Label9.Show();
+}
+
+void DayScheduler::ShowRows() {
+  RandomForm1& screen = context_.screen;
+  const StopSetList& list = context_.stop_sets;
+  for (int number = 1; number <= list.count(); ++number) screen.List7.AddRow(list.row(number).EventId);
+  // The clock never meets these, and nothing else would say so.
+  for (const std::string& time : list.MistypedTimes()) {
+    screen.AddErrorRow(time + " = Not a Time as 09:05 AM");
+  }
+}
+
+/// The clock stands in the first minute of the day, or has come to a later day without passing it.
+bool DayScheduler::DayHasChanged(const CivilTime& now) {
+  const std::int64_t day = MillisecondsFromCivil(now) / kMillisecondsOfDay;
+  const bool skipped_midnight = last_day_ != 0 && day > last_day_;
+  last_day_ = day;
+  return skipped_midnight || (now.hour == 0 && now.minute == 0);
+}
+
+void DayScheduler::ChangeAtMidnight() {
+  RunState& run = context_.run;
+  const CivilTime now = context_.platform.clock.Now();
+  if (!DayHasChanged(now) || !IsOfAnotherDay(run.TemplateName, now)) return;
+  run.TemplateName = DayOf(now) + ".TPD";
+  SkipAndGoOn(WriteRunningRecord(context_.platform.files, kRandomMode, run.TemplateName));
+  // The set is forgotten, not the promise that a pause in it ends by itself.
+  if (run.AudioPaused == 1 && run.StopSetActive == 1) run.override_outlives_set = true;
+  context_.screen.Frame2.Hide();
+  LoadSatTemp();
+}
+
+bool DayScheduler::TellWrongDay(const CivilTime& now) {
+  RandomForm1& screen = context_.screen;
+  const std::string& name = context_.run.TemplateName;
+  if (!IsOfAnotherDay(name, now)) {
+    if (!template_load_failed_) screen.Label9.Hide();
+    return false;
+  }
+  screen.Text7.Show();
+  screen.Text7.SetText("WAITING UNTIL MIDNIGHT");
+  screen.Label9.Show();
+  screen.Label9.SetCaption(
+      " NO SCHEDULED PLAYBACK WILL TAKE PLACE TODAY. THE CURRENT DAY DOES NOT MATCH THE TEMPLATE IN USE.  "
+      "TEMPLATE IN USE = " +
+      DayOf(name) + ", WHILE TODAY = " + DayOf(now) +
+      ". LOADING OF THE NEXT DAY WILL BE ATTEMPTED AT MIDNIGHT!");
+  return true;
+}
+
+void DayScheduler::Scan() {
+  const CivilTime now = context_.platform.clock.Now();
+  if (TellWrongDay(now)) return;
+  const StopSetList& list = context_.stop_sets;
+  if (list.count() == 0) return;
+  if (context_.run.StopSetActive != 1) {
+    context_.screen.Text7.Show();
+    context_.screen.Text7.SetText("SCANNING STOP SETS");
+  }
+  const std::string time = HourMinuteAmPm(now);
+  for (int number = 1; number <= list.count(); ++number) {
+    const StopSetRow& row = list.row(number);
+    if (!row.marked && row.EventId == time) MakeDue(number);  // and on: a later row of this minute wins
+  }
+}
+
+void DayScheduler::MakeDue(int number) {
+  RandomForm1& screen = context_.screen;
+  StopSetRow& row = context_.stop_sets.row(number);
+  screen.Text7.Show();
+  screen.Text7.SetText(row.EventId + " Break Up Next");
+  row.marked = true;
+  screen.List7.SetRow(number, row.text());
+  screen.List7.Select(number);
+  context_.run.StopSetActive = 1;
+  context_.run.StopSetIndex = number;
+}
+
+StopSetState DayScheduler::state(const CivilTime& now) const {
+  const RunState& run = context_.run;
+  if (!choice_prepared_ || run.TemplateName == kNoTemplate) return StopSetState::kOff;
+  if (context_.screen.Frame2.visible()) return StopSetState::kNotChosen;
+  if (template_load_failed_) return StopSetState::kMissing;
+  if (IsOfAnotherDay(run.TemplateName, now)) return StopSetState::kWrongDay;
+  if (run.StopSetActive != 1) return StopSetState::kScanning;
+  if (run.AudioPaused == 1) return StopSetState::kPaused;
+  const bool at_its_time = context_.stop_sets.row(run.StopSetIndex).kind == EventKind::kLocalBreak;
+  return at_its_time ? StopSetState::kDue : StopSetState::kPlaying;
+}
+
+StopSetStatus DayScheduler::status() const {
+  const CivilTime now = context_.platform.clock.Now();
+  const StopSetList& list = context_.stop_sets;
+  StopSetStatus status;
+  status.state = state(now);
+  status.template_name = context_.run.TemplateName;
+  status.set_count = list.set_count();
+  status.total_seconds = list.TemplateSeconds();
+  const int minute = now.hour * 60 + now.minute;
+  if (const auto next = list.Next(minute)) {
+    status.next_time = list.row(next->row).EventId;
+    status.minutes_to_next = next->minute - minute;
+  }
+  const int override_seconds = context_.settings.PauseOverrideSecs;
+  if (status.state == StopSetState::kPaused && override_seconds != 0) {
+    status.override_seconds = std::max(0, override_seconds - static_cast<int>(context_.run.ElapsedSecs));
+  }
+  return status;
+}
+
+}  // namespace quixair
