@@ -1,5 +1,6 @@
 #include "bench_station.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -7,6 +8,7 @@
 
 #include "station/console/value_form.h"
 #include "station/library/recording_file.h"
+#include "station/platform/civil_time.h"
 #include "station/platform/controls.h"
 #include "station/platform/screen.h"
 #include "station/platform/text.h"
@@ -32,6 +34,15 @@ std::int32_t StandInLength(const fs::path& path) {
   std::int32_t length = 0;
   stream >> length;
   return length;
+}
+
+/// A line of the process's status, in MiB.
+double OfStatus(std::string_view name) {
+  std::ifstream status("/proc/self/status");
+  for (std::string line; std::getline(status, line);) {
+    if (line.starts_with(name)) return NumericValue(std::string_view(line).substr(name.size())) / 1024;
+  }
+  return 0;
 }
 
 }  // namespace
@@ -111,12 +122,34 @@ std::vector<std::string> BenchStation::DataFiles() const {
   return files;
 }
 
-double PeakMebibytes() {
-  std::ifstream status("/proc/self/status");
-  for (std::string line; std::getline(status, line);) {
-    if (line.starts_with("VmHWM:")) return NumericValue(std::string_view(line).substr(6)) / 1024;
+void BenchStation::PutStopSets(int sets, int rows) const {
+  std::vector<TemplateEvent> events;
+  int spot = 0;
+  for (int set = 0; set < sets; ++set) {
+    CivilTime time;
+    time.hour = set * 1440 / sets / 60;
+    time.minute = set * 1440 / sets % 60;
+    events.push_back({HourMinuteAmPm(time), "****LOCAL BREAK***"});
+    for (int row = 0; row < rows; ++row) events.push_back({Id("S%04d", spot++ % 40 + 1), "Spot"});
   }
-  return 0;
+  for (const char* day : {"SUN", "MON", "TUE", "WED", "THU", "FRI", "SAT"}) {
+    Put(folder_ / "QXTEMPLT" / (std::string(day) + ".TPD"), FormatTemplate(events));
+  }
+  RandomSettings settings = TypicalSettings();
+  settings.BreakType = break_type::kScheduledStopSet;
+  Put(folder_ / "QXAIR" / "RANDDATA.DTA", FormatRandomSettings(settings));
+}
+
+void BenchStation::PutOverlap(int seconds) const {
+  Put(folder_ / "QXAIR" / "overlap.dta", WriteForm().Text(std::to_string(seconds)).bytes());
+}
+
+double PeakMebibytes() {
+  return OfStatus("VmHWM:");
+}
+
+double ResidentMebibytes() {
+  return OfStatus("VmRSS:");
 }
 
 void ResetPeakMemory() {
@@ -125,6 +158,15 @@ void ResetPeakMemory() {
 
 void OpenRandom(simulation::SimulatedStation& station) {
   station.Do([&station] { station.platform().screens.Open("RandomForm1"); });
+}
+
+void ChooseTodaysTemplate(simulation::SimulatedStation& station) {
+  Screen& screen = *station.FindScreen("RandomForm1");
+  auto& list = dynamic_cast<FileListBox&>(*screen.FindControl("File2"));
+  const std::string today = UpperCased(DayName(station.time().Now())) + ".TPD";
+  const auto row = std::find(list.rows().begin(), list.rows().end(), today);
+  list.PersonSelects({static_cast<int>(row - list.rows().begin())});
+  dynamic_cast<Button&>(*screen.FindControl("Done")).Click();
 }
 
 void PressStart(simulation::SimulatedStation& station) {

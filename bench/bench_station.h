@@ -24,6 +24,9 @@ class BenchStation {
   std::unique_ptr<simulation::SimulatedStation> Start() const;
   /// The data files on the host in their folder's order: a load opens each of them once.
   std::vector<std::string> DataFiles() const;
+  /// Stop sets by the clock: for each day of the week a template of `sets` sets, evenly over the day, of `rows` spots.
+  void PutStopSets(int sets, int rows) const;
+  void PutOverlap(int seconds) const;
   const std::filesystem::path& folder() const { return folder_; }
 
  private:
@@ -36,8 +39,12 @@ RandomSettings TypicalSettings();
 /// The largest resident memory of this process so far, in MiB; set back where the system allows it.
 double PeakMebibytes();
 void ResetPeakMemory();
+/// The resident memory of this moment.
+double ResidentMebibytes();
 
 void OpenRandom(simulation::SimulatedStation& station);
+/// What the operator does in the frame that asks for a template.
+void ChooseTodaysTemplate(simulation::SimulatedStation& station);
 void PressStart(simulation::SimulatedStation& station);
 
 }  // namespace quixair::bench
