@@ -240,6 +240,7 @@ void SequencingEngine::Verify(const WorkingItem& item, const Started& started) {
     context_.screen.Text3.Show();
   } else if (written.ok() && context_.screen.Text3.text() == kDriveFullWarning) {
     context_.screen.Text3.SetText("");  // there is room again
+    context_.screen.Text3.Hide();
   }
 }
 

@@ -20,6 +20,7 @@ void SequencingEngine::PlayStopSetRow() {
   if (past_the_end || context_.stop_sets.row(run.StopSetIndex).kind == EventKind::kLocalBreak) {
     run.StopSetActive = 0;  // the watcher finds both channels closed and goes back to the rotation
     run.StopSetIndex = 0;
+    context_.screen.List7.Select(-1);
     return;
   }
   context_.screen.List7.Select(run.StopSetIndex);
@@ -47,6 +48,7 @@ void SequencingEngine::PauseInStopSet(const StopSetRow& row) {
                    .Title = "Audio is Paused",
                    .Length = length});
   screen.Text1.SetText(std::string(22, ' ') + "Audio Paused... Press <Begin Next> to Resume.");
+  screen.CurrLabel[4].SetCaption("");
   run.ItemStartTimer = context_.platform.clock.Steady();
   run.pause_started = run.ItemStartTimer;
   run.AudioPaused = 1;
