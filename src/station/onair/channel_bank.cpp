@@ -3,8 +3,20 @@
 #include <string>
 
 #include "station/platform/screen.h"
+#include "station/platform/text.h"
 
 namespace quixair {
+namespace {
+
+constexpr std::size_t kIdInPath = 10;  // behind "X:\\QXWAVE\\"
+
+bool SongBegan(const MediaControl& channel, int milliseconds) {
+  const std::string& path = channel.file_name();
+  return path.size() > kIdInPath && UpperCased(path[kIdInPath]) == 'M' &&
+         channel.Mode() == ChannelMode::kPlaying && channel.Position() < milliseconds;
+}
+
+}  // namespace
 
 ChannelBank::ChannelBank(Screen& owner)
     : MMControl1(owner, "MMControl1", 1),
@@ -54,6 +66,10 @@ void ChannelBank::RewindAll() {
 
 void ChannelBank::CloseAll() {
   for (MediaControl* channel : {&MMControl1, &MMControl2, &MMControl3}) channel->Command("close");
+}
+
+bool ChannelBank::TwoSongsBegan(int milliseconds) const {
+  return SongBegan(MMControl1, milliseconds) && SongBegan(MMControl2, milliseconds);
 }
 
 void ChannelBank::UpdateLabels() {

@@ -28,6 +28,9 @@ class ChannelBank {
   void ResumeAll();  // those of 1, 2, 3 that are paused
   void RewindAll();
   void CloseAll();
+  /// Both channels play songs, each of them no further than `milliseconds`: the only sign of two that were
+  /// started over each other.
+  bool TwoSongsBegan(int milliseconds) const;
   /// A playing channel reads "Open", one that is not open "Closed"; any other keeps its label.
   void UpdateLabels();
 

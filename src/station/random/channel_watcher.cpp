@@ -63,7 +63,7 @@ void ChannelWatcher::RetireFirstAfterOverlap() {
 /// Counted by the clock from the item's start, not by the channel's position.
 void ChannelWatcher::HandBack() {
   RunState& run = context_.run;
-  const double overlap = NumericValue(context_.screen.List2.selected_text());
+  const int overlap = context_.screen.Overlap.seconds();
   if (run.LiveRequested == 1 || overlap == 0) return;
   if (channel(2).Mode() != ChannelMode::kPlaying || channel(1).Mode() != ChannelMode::kNotOpen) return;
   if (channel(2).Length() / 1000.0 - run.ElapsedSecs > overlap + 1) return;

@@ -2,21 +2,13 @@
 
 #include <string>
 
-#include "station/platform/text.h"
 #include "station/random/random_form1.h"
 #include "station/random/random_playback.h"
 
 namespace quixair {
 namespace {
 
-constexpr std::size_t kIdInPath = 10;  // behind "X:\QXWAVE\"
 constexpr int kTogetherMilliseconds = 10000;
-
-bool SongJustBegan(const MediaControl& channel) {
-  const std::string& path = channel.file_name();
-  return path.size() > kIdInPath && UpperCased(path[kIdInPath]) == 'M' &&
-         channel.Mode() == ChannelMode::kPlaying && channel.Position() < kTogetherMilliseconds;
-}
 
 void CloseWhenStopped(MediaControl& channel) {
   if (channel.Mode() == ChannelMode::kStopped) channel.Command("Close");
@@ -29,7 +21,7 @@ void OverlapWatcher::Tick() {
   ChannelBank& channels = context_.screen.Channels;
   AbortCompeting();
   if (run.StopSetActive == 1) return;
-  const double overlap = NumericValue(context_.screen.List2.selected_text());
+  const int overlap = context_.screen.Overlap.seconds();
   if (overlap != 0 && run.AudioPaused != 1) {
     CloseWhenStopped(channels.MMControl2);
     CloseWhenStopped(channels.MMControl1);
@@ -43,7 +35,7 @@ void OverlapWatcher::Tick() {
 /// The only guard against two songs over each other; it always keeps channel 1.
 void OverlapWatcher::AbortCompeting() {
   ChannelBank& channels = context_.screen.Channels;
-  if (!SongJustBegan(channels.MMControl1) || !SongJustBegan(channels.MMControl2)) return;
+  if (!channels.TwoSongsBegan(kTogetherMilliseconds)) return;
   context_.faults.Add("Competing Overlap Aborted", " Competing Overlap Aborted");
   channels.MMControl2.Command("Close");
 }
@@ -61,7 +53,7 @@ bool OverlapWatcher::HeldOff() const {
 }
 
 /// One second before the overlap set, so that the tick that comes up to a second late still keeps it.
-bool OverlapWatcher::PointReached(double overlap) {
+bool OverlapWatcher::PointReached(int overlap) {
   const RunState& run = context_.run;
   const MediaControl& first = context_.screen.Channels.MMControl1;
   const MediaControl& second = context_.screen.Channels.MMControl2;

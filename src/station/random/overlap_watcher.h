@@ -17,7 +17,7 @@ class OverlapWatcher {
  private:
   void AbortCompeting();
   bool HeldOff() const;
-  bool PointReached(double overlap);
+  bool PointReached(int overlap);
 
   RandomContext& context_;
   SequencingEngine& engine_;

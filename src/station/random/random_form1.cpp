@@ -11,11 +11,7 @@ constexpr int kMaxErrorRows = 500;  // a run lasts for weeks; the error log file
 RandomForm1::RandomForm1(const Platform& platform)
     : Screen(platform, "RandomForm1", "Random Playback Mode  [4X]"),
       playback_(std::make_unique<RandomPlayback>(*this)) {
-  Text1.SetBackColor(kPaleGreen);
-  Command6.SetHint("Saves the Overlap Setting");
-  const std::array<Control*, 8> hidden = {&GoLive, &Command6, &Text3,  &Text4,
-                                          &Text7,  &Label9,   &Frame2, &PauseCommand};
-  for (Control* control : hidden) control->Hide();
+  for (Control* control : std::array<Control*, 5>{&Text3, &Text4, &Text7, &Label9, &Frame2}) control->Hide();
   Command4.Disable();
   Command3.on_click = [this] {
     const bool show = !List4.visible();

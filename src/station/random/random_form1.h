@@ -10,8 +10,12 @@
 #include <string>
 #include <vector>
 
+#include "station/console/station_paths.h"
 #include "station/onair/channel_bank.h"
 #include "station/onair/on_air_status.h"
+#include "station/onair/overlap_choice.h"
+#include "station/onair/playback_switches.h"
+#include "station/onair/run_buttons.h"
 #include "station/onair/start_time_frame.h"
 #include "station/platform/screen.h"
 
@@ -52,12 +56,7 @@ class RandomForm1 : public Screen, public OnAirScreen {
   Button Start{*this, "Start", "&START"};
   Button Command2{*this, "Command2", "&QUIT"};
   Button Command4{*this, "Command4", "Set Start &Time"};
-  Button PauseCommand{*this, "PauseCommand", "&Pause"};
-  Button ContinueCommand{*this, "ContinueCommand", "&Continue"};
-  Button BeginNextCommand{*this, "BeginNextCommand", "&Begin Next"};
-  Button RequeueCommand{*this, "RequeueCommand", "   Re-&Queue           Current"};
-  Button EndRunCommand{*this, "EndRunCommand", "&End Run"};
-  Button GoLive{*this, "GoLive", "Go &Live Next"};
+  RunButtons Run{*this, Text1};
 
   // lists
   Label Label3{*this, "Label3", "Randomly Rotating Material"};
@@ -74,12 +73,8 @@ class RandomForm1 : public Screen, public OnAirScreen {
   Button Command3{*this, "Command3", "Hide Setti&ngs"};
   ListBox List4{*this, "List4"};  // settings print-out
   Button Command5{*this, "Command5", "&Refresh Settings"};
-  Label Label4{*this, "Label4", "Start Overlap when ? seconds remain"};
-  ListBox List2{*this, "List2"};  // overlap, "0" to "9"
-  Button Command6{*this, "Command6", "Sa&ve"};
-  CheckBox Check2{*this, "Check2", "Verification Log: "};
-  CheckBox Check3{*this, "Check3", " 'Begin Next' Pause"};
-  CheckBox Check4{*this, "Check4", "Spot Date Check:"};
+  OverlapChoice Overlap{*this, "Label4", "Command6"};
+  PlaybackSwitches Switches{*this, station_paths::kRandomVerify};
   Button Command1{*this, "Command1", "Text Editor"};
   TextBox Text4{*this, "Text4"};  // notes, never saved
 

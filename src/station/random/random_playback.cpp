@@ -33,7 +33,6 @@ RandomPlayback::RandomPlayback(RandomForm1& screen)
                .rotation = {},
                .stop_sets = {},
                .run = {},
-               .verification_on = true,
                .faults = AirFaultLog(screen.platform().files, screen.platform().clock, ModeLetter::kRandom,
                                      [&screen](std::string row) { screen.AddErrorRow(std::move(row)); })},
       engine_(context_),
@@ -44,7 +43,6 @@ RandomPlayback::RandomPlayback(RandomForm1& screen)
   engine_.press_start = [this] { controls_.Start(); };
   scheduler_.press_start = [this] { controls_.Start(); };
   ConnectControls();
-  ConnectSwitches();
 }
 
 void RandomPlayback::ConnectControls() {
@@ -54,18 +52,19 @@ void RandomPlayback::ConnectControls() {
     controls_.Quit();
     context_.platform.screens.Unload(context_.screen);
   };
-  screen.EndRunCommand.on_click = [this] {
+  screen.Run.EndRunCommand.on_click = [this] {
     controls_.EndRun();
     context_.platform.screens.Unload(context_.screen);
   };
-  screen.PauseCommand.on_click = [this] { controls_.Pause(); };
-  screen.ContinueCommand.on_click = [this] { controls_.Continue(); };
-  screen.BeginNextCommand.on_click = [this] { controls_.BeginNext(); };
-  screen.RequeueCommand.on_click = [this] { controls_.Requeue(); };
-  screen.GoLive.on_click = [this] { controls_.GoLive(); };
+  screen.Run.PauseCommand.on_click = [this] { controls_.Pause(); };
+  screen.Run.ContinueCommand.on_click = [this] { controls_.Continue(); };
+  screen.Run.BeginNextCommand.on_click = [this] { controls_.BeginNext(); };
+  screen.Run.RequeueCommand.on_click = [this] { controls_.Requeue(); };
+  screen.Run.GoLive.on_click = [this] { controls_.GoLive(); };
   screen.Command4.on_click = [&screen] { screen.StartTime.OpenFrame(); };
   screen.List1.on_click = [this] { controls_.ChooseFirstEvent(); };
   screen.Refresh.on_click = [this] { Load(); };
+  screen.Command5.on_click = [this] { ReadSettings(); };
   screen.Timer1.on_tick = [this] { controls_.StartWhenDue(); };
   screen.Timer2.on_tick = [this] { watcher_.Tick(); };
   screen.Timer3.on_tick = [this] { overlap_.Tick(); };
@@ -73,33 +72,6 @@ void RandomPlayback::ConnectControls() {
   screen.Channels.ConnectBars([this] { return controls_.BarMayContinue(true); },
                               [this] { return controls_.BarMayContinue(false); },
                               [this] { controls_.Continue(); });
-}
-
-void RandomPlayback::ConnectSwitches() {
-  RandomForm1& screen = context_.screen;
-  Files& files = context_.platform.files;
-  screen.Check2.on_click = [this, &screen, &files] {
-    context_.verification_on = screen.Check2.ticked();
-    SkipAndGoOn(WriteNumberSetting(files, station_paths::kRandomVerify, screen.Check2.ticked() ? 0 : 1));
-    screen.Check2.SetCaption(screen.Check2.ticked() ? "Verification Log: ON" : "Verification Log: OFF");
-  };
-  screen.Check3.on_click = [&screen, &files] {
-    SkipAndGoOn(WriteNumberSetting(files, station_paths::kPauseAfterNext, screen.Check3.ticked() ? 1 : 0));
-  };
-  screen.Check4.on_click = [&screen, &files] {
-    SkipAndGoOn(WriteTextSetting(files, station_paths::kSpotDateCheck, screen.Check4.ticked() ? "1" : "0"));
-    screen.Check4.SetCaption(
-        SpotDateCaption(screen.Check4.ticked() ? SpotDateSwitch::kOn : SpotDateSwitch::kOff));
-  };
-  screen.List2.on_click = [&screen] {
-    screen.Command6.Show();
-    screen.Command6.Enable();
-  };
-  screen.Command6.on_click = [&screen, &files] {
-    SkipAndGoOn(WriteTextSetting(files, station_paths::kOverlap, screen.List2.selected_text()));
-    screen.Command6.Disable();
-  };
-  screen.Command5.on_click = [this] { ReadSettings(); };
 }
 
 void RandomPlayback::Load() {
@@ -116,8 +88,11 @@ void RandomPlayback::Load() {
     screen.Label8.SetCaption("Stop Sets: [Disabled]");
   }
   if (context_.settings.BreakType != break_type::kNone) LoadSpotRotation();
-  ShowSwitches();
-  FillChoices();
+  screen.Switches.ReadFiles();
+  screen.List1.Clear();  // events come with a template
+  screen.Overlap.ReadFile();
+  screen.Overlap.save.Hide();
+  screen.Overlap.save.Disable();
   screen.Text1.SetText("Ready to Begin Playback.  Press START to begin, or QUIT to Exit");
   screen.Start.SetFocus();
   screen.Timer4.SetInterval(kSettingsTick);
@@ -128,10 +103,7 @@ void RandomPlayback::PrepareScreen() {
   RandomForm1& screen = context_.screen;
   screen.Channels.MMControl1.Command("Close");
   screen.Channels.MMControl2.Command("Close");
-  for (Button* button : {&screen.PauseCommand, &screen.ContinueCommand, &screen.BeginNextCommand,
-                         &screen.EndRunCommand, &screen.RequeueCommand}) {
-    button->Hide();
-  }
+  screen.Run.HideBeforeRun();
   screen.Timer2.SetEnabled(true);
   screen.AddErrorRow("-- error log --");
   SkipAndGoOn(WriteTextSetting(context_.platform.files, station_paths::kResetRandom, "0"));
@@ -278,32 +250,6 @@ void RandomPlayback::LoadSpotRotation() {
     spots.Add(ReadRotationSpot(files, event.EventId));
     ShowProgress(spots.count(), " Spots/PSA's Found...");
   }
-}
-
-void RandomPlayback::ShowSwitches() {
-  RandomForm1& screen = context_.screen;
-  Files& files = context_.platform.files;
-  const SpotDateSwitch date_check = ReadSpotDateSwitch(files);
-  if (date_check != SpotDateSwitch::kUnknown) screen.Check4.Tick(date_check == SpotDateSwitch::kOn);
-  screen.Check4.SetCaption(SpotDateCaption(date_check));
-  const bool verify = ReadNumberSetting(files, station_paths::kRandomVerify) != 1;
-  context_.verification_on = verify;
-  screen.Check2.Tick(verify);
-  screen.Check2.SetCaption(verify ? "Verification Log: ON" : "Verification Log: OFF");
-  screen.Check3.Tick(ReadNumberSetting(files, station_paths::kPauseAfterNext) == 1);
-}
-
-void RandomPlayback::FillChoices() {
-  RandomForm1& screen = context_.screen;
-  screen.List1.Clear();  // events come with a template
-  screen.List2.Clear();
-  for (int seconds = 0; seconds <= 9; ++seconds) screen.List2.AddRow(std::to_string(seconds));
-  const std::string overlap =
-      ReadSetting(context_.platform.files, station_paths::kOverlap).value_or(std::string());
-  const bool valid = overlap.size() == 1 && overlap[0] >= '0' && overlap[0] <= '9';
-  screen.List2.Select(valid ? overlap[0] - '0' : 0);
-  screen.Command6.Hide();
-  screen.Command6.Disable();
 }
 
 }  // namespace quixair

@@ -61,7 +61,6 @@ struct RandomContext {
   RotationState rotation;
   StopSetList stop_sets;
   RunState run;
-  bool verification_on = true;
   AirFaultLog faults;
 };
 
@@ -77,7 +76,6 @@ class RandomPlayback {
 
  private:
   void ConnectControls();
-  void ConnectSwitches();
   void PrepareScreen();
   bool LoadMusic();
   void LoadLiners();
@@ -88,8 +86,6 @@ class RandomPlayback {
   void ReadSettings();
   void AnnounceRestart();
   void LoadSpotRotation();
-  void ShowSwitches();
-  void FillChoices();
   /// A count and what it counts, as often as an eye can follow.
   void ShowProgress(int count, const char* what);
   void ShowPoolRow(const std::string& mark, const PoolRow& row);

@@ -29,16 +29,15 @@ void RunControls::Start() {
 
 void RunControls::ShowRunControls() {
   RandomForm1& screen = context_.screen;
-  const std::array<Control*, 7> hidden = {&screen.Start,  &screen.Command2, &screen.List1,   &screen.Command6,
-                                          &screen.Label1, &screen.Label2,   &screen.Command4};
+  const std::array<Control*, 7> hidden = {&screen.Start,        &screen.Command2, &screen.List1,
+                                          &screen.Overlap.save, &screen.Label1,   &screen.Label2,
+                                          &screen.Command4};
   for (Control* control : hidden) control->Hide();
-  screen.List2.Disable();
-  screen.Command6.Disable();
-  const std::array<Control*, 12> shown = {
-      &screen.PauseCommand,  &screen.ContinueCommand, &screen.BeginNextCommand,
-      &screen.EndRunCommand, &screen.RequeueCommand,  &screen.GoLive,
-      &screen.Text2,         &screen.List3,           &screen.List5,
-      &screen.Label7,        &screen.Label8,          &screen.List7};
+  screen.Overlap.List2.Disable();
+  screen.Overlap.save.Disable();
+  screen.Run.ShowForRun();
+  const std::array<Control*, 6> shown = {&screen.Text2,  &screen.List3,  &screen.List5,
+                                         &screen.Label7, &screen.Label8, &screen.List7};
   for (Control* control : shown) control->Show();
 }
 
@@ -56,10 +55,7 @@ void RunControls::Pause() {
   screen.Text1.SetText("  AUDIO PAUSED...  Click Continue or ALT+C to Resume ");
   run.AudioPaused = 1;
   screen.Channels.PauseAll();
-  screen.RequeueCommand.Disable();
-  screen.PauseCommand.Disable();
-  screen.GoLive.Disable();
-  screen.ContinueCommand.SetFocus();
+  screen.Run.ShowPaused();
 }
 
 void RunControls::ResumeClock() {
@@ -82,21 +78,16 @@ void RunControls::Continue() {
   screen.Text1.SetText(PlaybackText(run.StopSetActive == 1));
   run.AudioPaused = 0;
   run.override_outlives_set = false;
-  for (Button* button :
-       {&screen.PauseCommand, &screen.RequeueCommand, &screen.BeginNextCommand, &screen.GoLive}) {
-    button->Enable();
-  }
+  screen.Run.ShowResumed();
   if (run.live_now) EndLiveBreak();
 }
 
 /// A request that has not taken effect yet outlives a pause.
 void RunControls::EndLiveBreak() {
   RunState& run = context_.run;
-  RandomForm1& screen = context_.screen;
   run.LiveRequested = 0;
   run.live_now = false;
-  screen.Text1.SetBackColor(kPaleGreen);
-  screen.GoLive.SetCaption("Go &Live Next");
+  context_.screen.Run.ShowLiveOver();
   engine_.PlayNextItem();
 }
 
@@ -114,9 +105,9 @@ void RunControls::BeginNext() {
   }
   ++run.event_counter;
   run.begin_next = 1;
-  screen.RequeueCommand.Disable();
-  screen.BeginNextCommand.Disable();
-  if (screen.Check3.ticked()) run.PauseNextPending = 1;
+  screen.Run.RequeueCommand.Disable();
+  screen.Run.BeginNextCommand.Disable();
+  if (screen.Switches.pause_after_next()) run.PauseNextPending = 1;
   engine_.PlayNextItem();
 }
 
@@ -128,18 +119,12 @@ void RunControls::Requeue() {
 
 void RunControls::GoLive() {
   RunState& run = context_.run;
-  RandomForm1& screen = context_.screen;
-  if (run.LiveRequested == 0) {
-    screen.Text1.SetBackColor(kYellow);
-    screen.Text1.SetText(std::string(36, ' ') + "Going Live After Current Selection Ends");
-    run.LiveRequested = 1;
-    screen.GoLive.SetCaption("Cancel &Live");
-    return;
+  run.LiveRequested = run.LiveRequested == 0 ? 1 : 0;
+  if (run.LiveRequested == 1) {
+    context_.screen.Run.ShowLiveAsked();
+  } else {
+    context_.screen.Run.ShowLiveTakenBack();
   }
-  screen.GoLive.SetCaption("Go &Live Next");
-  screen.Text1.SetBackColor(kPaleGreen);
-  screen.Text1.SetText(std::string(61, ' ') + "Live Cancelled!");
-  run.LiveRequested = 0;
 }
 
 void RunControls::EndRun() {

@@ -72,18 +72,13 @@ void SequencingEngine::RememberLastItem() {
 
 void SequencingEngine::HoldForLive() {
   RandomForm1& screen = context_.screen;
-  screen.Text1.SetText("AUDIO PAUSED FOR LIVE BREAK ! - Press <CONTINUE> to Resume");
-  screen.GoLive.SetCaption("LIVE NOW!");
-  screen.GoLive.Disable();
-  screen.ContinueCommand.SetFocus();
+  screen.Run.ShowLiveNow();
   context_.run.AudioPaused = 1;
   context_.run.live_now = true;
   context_.run.ItemStartTimer = context_.platform.clock.Steady();
   screen.CurrLabel[0].SetCaption(" LIVE !");
   screen.CurrLabel[1].SetCaption(" ");
   screen.CurrLabel[2].SetCaption(" ");
-  screen.PauseCommand.Disable();
-  screen.RequeueCommand.Disable();
 }
 
 /// Comes before the stop set too.
@@ -130,7 +125,8 @@ std::optional<std::string> SequencingEngine::RefusalOfSpot(const std::string& id
   if (!IsSpotId(id)) return std::nullopt;
   Files& files = context_.platform.files;
   const SpotDateSwitch date_check = ReadSpotDateSwitch(files);
-  if (date_check == SpotDateSwitch::kUnknown) context_.screen.Check4.SetCaption(SpotDateCaption(date_check));
+  if (date_check == SpotDateSwitch::kUnknown)
+    context_.screen.Switches.Check4.SetCaption(SpotDateCaption(date_check));
   if (date_check != SpotDateSwitch::kOn) return std::nullopt;
   const std::vector<std::string> fields = ReadLeadingFields(files, id, 7);
   return SpotDateRefusal(fields[5], fields[6], context_.platform.clock.Now());
@@ -231,7 +227,7 @@ bool SequencingEngine::AnythingSounds() {
 void SequencingEngine::Verify(const WorkingItem& item, const Started& started) {
   if (!AnythingSounds()) return;  // nothing could be started in its place either: no proof of airing
   context_.faults.ItemSounds();
-  if (!context_.verification_on || !IsVerified(item.RecordingId)) return;
+  if (!context_.screen.Switches.verification_on() || !IsVerified(item.RecordingId)) return;
   const Status written = LogVerification(context_.platform.files, context_.platform.clock.Now(),
                                          item.RecordingId, LogDescription(item.RecordingId, item.first_text),
                                          started.start_time, ModeLetter::kRandom);
@@ -250,8 +246,7 @@ void SequencingEngine::FinishStep() {
   screen.Text2.SetText("Today is: " + DayName(now) + ". " + MonthDayYear(now));
   context_.run.ItemStartTimer = context_.platform.clock.Steady();
   screen.Timer2.SetInterval(kChannelPollTick);
-  if (screen.List2.selected_index() < 0) screen.List2.Select(0);
-  const bool overlap = screen.List2.selected_text() != "0" && screen.List2.selected_index() > 0;
+  const bool overlap = screen.Overlap.Settled() != 0;
   screen.Timer3.SetInterval(overlap ? kOverlapTick : std::chrono::milliseconds(0));
 }
 
