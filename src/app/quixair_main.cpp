@@ -9,6 +9,7 @@
 #include "desktop/program_table.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_timers.h"
+#include "desktop/session_entry.h"
 #include "desktop/termination_signals.h"
 #include "desktop/theme.h"
 #include "sound/sound_system.h"
@@ -38,9 +39,12 @@ int main(int argc, char** argv) {
   dialogs.Attach(gate);
   desktop::HostPrograms programs(desktop::ProgramTable::Load(configuration / "programs.conf", HomeFolder()),
                                  files, dialogs);
+  desktop::SessionEntry session_start(configuration.parent_path() / "autostart",
+                                      QCoreApplication::applicationFilePath().toStdString());
   sound::SoundSystem sound;
   ScreenRegistry screens(StationScreens());
-  const Platform platform{clock, timers, files, sound, dialogs, programs, random, screens, gate};
+  const Platform platform{clock,    timers,        files,  sound,   dialogs,
+                          programs, session_start, random, screens, gate};
   screens.Attach(platform);
 
   desktop::ThemeSwitch theme(application, configuration / "desktop.conf");

@@ -19,9 +19,12 @@ class HostPrograms : public Programs {
       : table_(std::move(table)), files_(files), dialogs_(dialogs) {}
 
   void Run(std::string_view command_line, WindowState window) override;
+  bool Knows(std::string_view command_line) override;
   void SendKeys(std::string_view keys) override;
 
  private:
+  /// The commands of the table for what is asked for; none when it holds none.
+  std::optional<std::vector<HostCommand>> CommandsFor(const CommandLine& asked_for) const;
   bool Start(const HostCommand& command, const CommandLine& asked_for);
   void TellMissing(std::string_view what, std::string_view how_to_mend);
 

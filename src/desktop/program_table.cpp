@@ -15,6 +15,7 @@ constexpr std::string_view kDefaults =
     "# What is started for the outside programs that the station names.\n"
     "#   NAME.EXE = command | another command   the first that is installed is taken\n"
     "#   NAME.EXE =                             nothing to do on this PC\n"
+    "#   NAME.EXE *.DOC = command               for documents with such names\n"
     "# %program is the program's own file, ~ the home folder. A name without a line here is told as "
     "missing.\n"
     "\n"
@@ -28,7 +29,12 @@ constexpr std::string_view kDefaults =
     "# Files and texts\n"
     "EXPLORER.EXE = xdg-open ~\n"
     "WORDPAD.EXE  = gnome-text-editor | gedit | kate | kwrite | mousepad | featherpad | xdg-open\n"
+    "WORDPAD.EXE *.DOC = libreoffice --view | abiword | calligrawords | xdg-open\n"
     "VOLWATCH.EXE = baobab | filelight | gnome-system-monitor\n"
+    "\n"
+    "# About this PC\n"
+    "MSINFO32.EXE = hardinfo2 | hardinfo | kinfocenter | gnome-control-center info-overview | "
+    "gnome-system-monitor\n"
     "\n"
     "# The recorder's components are part of this program: nothing to register.\n"
     "MMREGOCX.EXE =\n"
@@ -142,7 +148,11 @@ ProgramTable ProgramTable::Parse(std::string_view content, const std::filesystem
     std::string_view line = TakeUpTo(content, '\n');
     line = line.substr(0, line.find('#'));
     if (line.find('=') == std::string_view::npos) continue;
-    Entry entry{std::string(WithoutBlanks(TakeUpTo(line, '='))), {}};
+    const std::string_view asked_for = WithoutBlanks(TakeUpTo(line, '='));
+    const std::size_t documents = std::min(asked_for.find(" *"), asked_for.size());  // names may hold blanks
+    Entry entry{.name = std::string(WithoutBlanks(asked_for.substr(0, documents))),
+                .documents = std::string(WithoutBlanks(asked_for.substr(documents))),
+                .commands = {}};
     if (entry.name.empty()) continue;
     while (!line.empty()) {
       HostCommand command = Words(TakeUpTo(line, '|'));
@@ -172,11 +182,15 @@ ProgramTable ProgramTable::Load(const std::filesystem::path& file, const std::fi
   return Parse(content, home);
 }
 
-std::optional<std::vector<HostCommand>> ProgramTable::Find(std::string_view file_name) const {
+std::optional<std::vector<HostCommand>> ProgramTable::Find(std::string_view file_name,
+                                                           std::string_view document) const {
+  const Entry* found = nullptr;
   for (const Entry& entry : entries_) {
-    if (EqualsIgnoringCase(entry.name, file_name)) return entry.commands;
+    if (!EqualsIgnoringCase(entry.name, file_name)) continue;
+    if (!entry.documents.empty() && MatchesPattern(document, entry.documents)) return entry.commands;
+    if (entry.documents.empty() && found == nullptr) found = &entry;
   }
-  return std::nullopt;
+  return found != nullptr ? std::optional(found->commands) : std::nullopt;
 }
 
 }  // namespace quixair::desktop

@@ -1,7 +1,8 @@
 #pragma once
 
 // Which command of the host stands for an outside program of the old PC. The table is the file programs.conf
-// beside drives.conf: lines "NAME.EXE = command with arguments", where "|" divides commands of which the
+// beside drives.conf: lines "NAME.EXE = command with arguments", or "NAME.EXE *.DOC = ..." for documents whose
+// names match, where "|" divides commands of which the
 // first that is installed is taken, "%program" is the program's own file on the host, "~" the user's home,
 // and an empty command means that there is nothing to do. "#" starts a comment. All functions here are pure.
 
@@ -43,13 +44,16 @@ class ProgramTable {
   static ProgramTable Load(const std::filesystem::path& file, const std::filesystem::path& home);
   static std::string_view Defaults();
 
-  /// The commands to try for a program by its file name, without regard to case. None for a name that is not
-  /// in the table; an empty list when there is nothing to do.
-  std::optional<std::vector<HostCommand>> Find(std::string_view file_name) const;
+  /// The commands to try for a program by its file name and that of the document it is to open, without regard
+  /// to case; a line for such documents goes before one for all. None for a name that is not in the table; an
+  /// empty list when there is nothing to do.
+  std::optional<std::vector<HostCommand>> Find(std::string_view file_name,
+                                               std::string_view document = {}) const;
 
  private:
   struct Entry {
     std::string name;
+    std::string documents;  // a pattern, empty for all and for none
     std::vector<HostCommand> commands;
   };
   std::vector<Entry> entries_;

@@ -47,6 +47,9 @@ Trace::Trace(simulation::SimulatedStation& station, std::ostream& out) : station
     Event("run " + Quoted(command_line) + ' ' + NameOf(window));
   };
   station.programs().on_keys = [this](const std::string& keys) { Event("keys " + Quoted(keys)); };
+  station.session_start().on_set = [this](bool starts) {
+    Event(std::string("session start ") + (starts ? "on" : "off"));
+  };
   station.on_screen = [this](const std::string& screen, bool opened) {
     Event("screen " + screen + (opened ? " open" : " close"));
   };

@@ -1,6 +1,6 @@
 #pragma once
 
-// A person who answers boxes as told beforehand, and a record of what was asked; outside programs that are only noted.
+// A person who answers boxes as told beforehand, and a record of what was asked; outside programs and the session's start that are only noted.
 
 #include <deque>
 #include <functional>
@@ -9,6 +9,7 @@
 
 #include "station/platform/dialogs.h"
 #include "station/platform/programs.h"
+#include "station/platform/session_start.h"
 
 namespace quixair::simulation {
 
@@ -46,11 +47,23 @@ class NotedPrograms : public Programs {
   void Run(std::string_view command_line, WindowState window) override {
     if (on_run) on_run(std::string(command_line), window);
   }
+  bool Knows(std::string_view) override { return knows_all; }
   void SendKeys(std::string_view keys) override {
     if (on_keys) on_keys(std::string(keys));
   }
+  bool knows_all = true;
   std::function<void(const std::string& command_line, WindowState window)> on_run;
   std::function<void(const std::string& keys)> on_keys;
+};
+
+class NotedSessionStart : public SessionStart {
+ public:
+  Status SetStartsWithSession(bool starts) override {
+    if (fault.ok() && on_set) on_set(starts);
+    return fault;
+  }
+  Status fault;  // what every call comes back with
+  std::function<void(bool starts)> on_set;
 };
 
 }  // namespace quixair::simulation

@@ -14,6 +14,7 @@ SimulatedStation::Program::Program(SimulatedStation& station)
                .media = station.media_,
                .dialogs = station.dialogs_,
                .programs = station.programs_,
+               .session_start = station.session_start_,
                .random = station.random_,
                .screens = screens,
                .gate = gate} {

@@ -47,6 +47,7 @@ class SimulatedStation {
   SimulatedMedia& media() { return media_; }
   ScriptedDialogs& dialogs() { return dialogs_; }
   NotedPrograms& programs() { return programs_; }
+  NotedSessionStart& session_start() { return session_start_; }
   /// Of the running program.
   const Platform& platform() const { return program_->platform; }
 
@@ -72,6 +73,7 @@ class SimulatedStation {
   SimulatedMedia media_;
   ScriptedDialogs dialogs_;
   NotedPrograms programs_;
+  NotedSessionStart session_start_;
   EngineRandom random_;
   std::unique_ptr<Program> program_;
 };

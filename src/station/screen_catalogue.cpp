@@ -1,8 +1,12 @@
 #include "station/screen_catalogue.h"
 
+#include "station/console/about.h"
+#include "station/console/autostart.h"
 #include "station/console/console.h"
+#include "station/console/custom_information.h"
 #include "station/console/error_log.h"
 #include "station/console/first_use.h"
+#include "station/console/help.h"
 #include "station/console/not_built.h"
 #include "station/console/splash.h"
 #include "station/random/random_form1.h"
@@ -21,11 +25,20 @@ std::unique_ptr<Screen> Make(const Platform& platform) {
 
 ScreenRegistry::Catalogue StationScreens() {
   return {
-      {"Console", Make<Console>},           {"ErrorLog", Make<ErrorLog>},
-      {"frmSplash", Make<Splash>},          {"InstallInfo", Make<InstallInfo>},
-      {"InstallInfo2", Make<InstallInfo2>}, {"MMregOCX", Make<MMregOCX>},
-      {"NotBuilt", Make<NotBuilt>},         {"RandomForm1", Make<RandomForm1>},
-      {"RandomForm2", Make<RandomForm2>},   {"RandomSetup", Make<RandomSetup>},
+      {"Autostart", Make<Autostart>},
+      {"Console", Make<Console>},
+      {"CustomInformation", Make<CustomInformation>},
+      {"ErrorLog", Make<ErrorLog>},
+      {"frmAbout", Make<About>},
+      {"frmSplash", Make<Splash>},
+      {"InstallInfo", Make<InstallInfo>},
+      {"InstallInfo2", Make<InstallInfo2>},
+      {"MMregOCX", Make<MMregOCX>},
+      {"NotBuilt", Make<NotBuilt>},
+      {"QXHelp", Make<QXHelp>},
+      {"RandomForm1", Make<RandomForm1>},
+      {"RandomForm2", Make<RandomForm2>},
+      {"RandomSetup", Make<RandomSetup>},
   };
 }
 

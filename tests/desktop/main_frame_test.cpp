@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -76,10 +77,28 @@ TEST_F(MainFrameTest, MenuOpensAScreenAsAChild) {
 
 TEST_F(MainFrameTest, ScreenThatIsNotBuilt_SaysSo) {
   StartPastSplash();
-  ChooseMenu("About");
-  EXPECT_THAT(Widget<QLabel>("NotBuilt", "Label1").text().toStdString(), ::testing::HasSubstr("frmAbout"));
+  station_.Do([this] { station_.platform().screens.Open("OfLaterYears"); });
+  Rest();
+  EXPECT_THAT(Widget<QLabel>("NotBuilt", "Label1").text().toStdString(),
+              ::testing::HasSubstr("OfLaterYears"));
   QTest::mouseClick(&Widget<QPushButton>("NotBuilt", "Command1"), Qt::LeftButton);
   EXPECT_FALSE(IsOpen("NotBuilt"));
+}
+
+TEST_F(MainFrameTest, StationsOwnLine_TakesNoQuoteAndChangesTheTitle) {
+  StartPastSplash();
+  ChooseMenu("CustomInfo");
+  auto& line = Widget<QLineEdit>("CustomInformation", "Text1");
+  EXPECT_EQ(line.text(), QStringLiteral("Radio Café"));
+  QTest::keyClicks(&line, QStringLiteral(" \"9\""));
+  line.setCursorPosition(3);
+  QTest::keyClicks(&line, QStringLiteral("\""));
+  Rest();
+  EXPECT_EQ(line.text(), QStringLiteral("Radio Café 9")) << "nor in the middle";
+  QTest::mouseClick(&Widget<QPushButton>("CustomInformation", "Command1"), Qt::LeftButton);
+  Rest();
+  EXPECT_EQ(FileText("QXAIR/CUSTOM.DTA"), "\"Radio Caf\xE9 9\"\r\n");
+  EXPECT_EQ(frame_->windowTitle(), QStringLiteral("Quixair 4   Radio Café 9"));
 }
 
 TEST_F(MainFrameTest, ClosingAChild_UnloadsItsScreen) {

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QTest>
+
 #include "desktop/host_programs.h"
 #include "simulation/scripted_dialogs.h"
 #include "support/station_fixture.h"
@@ -59,11 +61,31 @@ TEST(ProgramTables, LinesNameCommandsInTheOrderToTry) {
   EXPECT_FALSE(table.Find("OTHER.EXE").has_value());
 }
 
+TEST(ProgramTables, LineForTheDocument_GoesBeforeTheOneForAll) {
+  const ProgramTable table = ProgramTable::Parse(
+      "EDIT.EXE = text\n"
+      "EDIT.EXE *.DOC;*.RTF = office\n"
+      "MY EDIT.EXE *.DOC = other\n",
+      "/");
+  EXPECT_THAT(*table.Find("edit.exe", "manual.doc"), ElementsAre(HostCommand{"office"}));
+  EXPECT_THAT(*table.Find("EDIT.EXE", "MANUAL.RTF"), ElementsAre(HostCommand{"office"}));
+  EXPECT_THAT(*table.Find("EDIT.EXE", "QXERROR.LOG"), ElementsAre(HostCommand{"text"}));
+  EXPECT_THAT(*table.Find("EDIT.EXE"), ElementsAre(HostCommand{"text"}));
+  EXPECT_THAT(*table.Find("MY EDIT.EXE", "A.DOC"), ElementsAre(HostCommand{"other"}));
+  EXPECT_FALSE(table.Find("MY EDIT.EXE", "A.TXT").has_value());
+}
+
+TEST(ProgramTables, Defaults_OpenTheManualInAWordProcessorAndLogsInAnEditor) {
+  const ProgramTable table = ProgramTable::Parse(ProgramTable::Defaults(), "/home/op");
+  EXPECT_EQ(table.Find("WordPad.exe", "MAN40S1.DOC")->front().front(), "libreoffice");
+  EXPECT_EQ(table.Find("WordPad.exe", "v3man.txt")->front().front(), "gnome-text-editor");
+}
+
 TEST(ProgramTables, DefaultsKnowEveryProgramOfTheMenu) {
   const ProgramTable table = ProgramTable::Parse(ProgramTable::Defaults(), "/home/op");
   for (const char* name : {"SNDREC32.EXE", "sndvol32.exe", "EXPLORER.EXE", "Control.exe", "wordpad.exe",
                            "AMIX95.EXE", "LOGTRIM.EXE", "VOLWATCH.EXE", "BRKCOUNT.EXE", "CONSOLE.EXE",
-                           "VOXPLAN.EXE", "LINKPLAN.EXE", "FEEDOPTS.EXE", "MMREGOCX.EXE"}) {
+                           "VOXPLAN.EXE", "LINKPLAN.EXE", "FEEDOPTS.EXE", "MMREGOCX.EXE", "MSINFO32.EXE"}) {
     EXPECT_TRUE(table.Find(name).has_value()) << name;
   }
   EXPECT_THAT(*table.Find("MMREGOCX.EXE"), IsEmpty());
@@ -125,6 +147,27 @@ TEST_F(HostProgramsTest, FileThatIsNotThere_IsToldAndNothingStarts) {
 TEST_F(HostProgramsTest, FirstInstalledProgram_IsStarted) {
   PutFile("QXAIR/QXERROR.LOG", "line\r\n");
   Run("EDIT.EXE = no-such-program-here | true", "EDIT.EXE C:\\QXAIR\\QXERROR.LOG");
+  EXPECT_THAT(dialogs_.shown(), IsEmpty());
+}
+
+TEST_F(HostProgramsTest, Document_IsOpenedAsItLiesOnTheHost) {
+  PutFile("QXAIR/man40s1.doc", "the manual");
+  std::filesystem::create_directories(Host("opened"));
+  Run("WORDPAD.EXE = true\nWORDPAD.EXE *.DOC = cp --target-directory=" + Host("opened").string(),
+      "C:\\Program Files\\Accessories\\WordPad.exe C:\\QXAIR\\MAN40S1.DOC");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return FileText("opened/man40s1.doc") == "the manual"; }));
+  EXPECT_THAT(dialogs_.shown(), IsEmpty());
+}
+
+TEST_F(HostProgramsTest, KnowsWhatHasAnInstalledProgram) {
+  desktop::HostPrograms programs(
+      ProgramTable::Parse("A.EXE = no-such-program-here | true\nB.EXE = no-such-program-here\nC.EXE =\n",
+                          "/"),
+      station_.files(), dialogs_);
+  EXPECT_TRUE(programs.Knows("C:\\WINDOWS\\a.exe /x"));
+  EXPECT_FALSE(programs.Knows("B.EXE"));
+  EXPECT_FALSE(programs.Knows("C.EXE")) << "nothing to do is nothing to show";
+  EXPECT_FALSE(programs.Knows("D.EXE"));
   EXPECT_THAT(dialogs_.shown(), IsEmpty());
 }
 

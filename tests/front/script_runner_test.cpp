@@ -56,6 +56,11 @@ TEST_F(Scripts, Events_ArePrintedInTheirForm) {
        "2026-11-22 20:00:00.000 end 0\n"},
       {"the window closed", "clock \"2030-01-01 00:00:00\"\nclose Console",
        "2030-01-01 00:00:00.000 end 0\n"},
+      {"the restart switch",
+       "quiet\nmenu AutoRestart\ntick Autostart.Option1 on\ntrace\nclick Autostart.Command1\n"
+       "quiet\nmenu AutoRestart\ntick Autostart.Option2 on\ntrace\nclick Autostart.\"&Done\"",
+       "2026-11-22 20:00:00.000 session start on\n2026-11-22 20:00:00.000 screen Autostart close\n"
+       "2026-11-22 20:00:00.000 session start off\n2026-11-22 20:00:00.000 screen Autostart close\n"},
       {"a screen", "open ErrorLog\nclick ErrorLog.\"E&xit Window\"",
        "2026-11-22 20:00:00.000 screen ErrorLog open\n2026-11-22 20:00:00.000 screen ErrorLog close\n"},
   };

@@ -71,6 +71,7 @@ StationFixture::StationFixture()
   station_.programs().on_run = [this](const std::string& command_line, WindowState) {
     runs_.push_back(command_line);
   };
+  station_.session_start().on_set = [this](bool starts) { session_starts_.push_back(starts); };
   station_.on_fault = [](const std::string& what) { ADD_FAILURE() << "a fault in an event: " << what; };
   station_.dialogs().on_unexpected = [](const simulation::ShownBox& box) {
     ADD_FAILURE() << "an unexpected box: " << box.title << ": " << box.text;

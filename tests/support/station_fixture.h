@@ -99,7 +99,8 @@ class StationFixture : public ::testing::Test {
   TemporaryFolder folder_;
   simulation::SimulatedStation station_;
   std::vector<Aired> aired_;
-  std::vector<std::string> runs_;  // outside programs started
+  std::vector<std::string> runs_;     // outside programs started
+  std::vector<bool> session_starts_;  // what was set, in order
 };
 
 template <class Kind>

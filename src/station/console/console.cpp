@@ -3,6 +3,7 @@
 #include <chrono>
 
 #include "station/console/audio_driver.h"
+#include "station/console/console_title.h"
 #include "station/console/settings_files.h"
 #include "station/console/station_paths.h"
 #include "station/platform/dialogs.h"
@@ -24,7 +25,7 @@ const std::vector<std::string> kSatelliteDays = {"MON.TPD", "TUE.TPD", "WED.TPD"
 
 }  // namespace
 
-Console::Console(const Platform& platform) : Screen(platform, "Console", "Quixair 4   ") {
+Console::Console(const Platform& platform) : Screen(platform, "Console", ConsoleTitle({})) {
   for (MenuItem* item : {&EnahncedMixer, &ResumeLastPick, &cacheman}) {
     item->Disable();
     item->Hide();
@@ -51,7 +52,7 @@ Console::Console(const Platform& platform) : Screen(platform, "Console", "Quixai
 void Console::Load() {
   const std::string station_line =
       ReadSetting(platform_.files, station_paths::kCustom).value_or(std::string());
-  SetTitle("Quixair 4   " + station_line);
+  SetTitle(ConsoleTitle(station_line));
   ResumeInterruptedRun();
   PrepareOrShowSplash();
 }

@@ -13,6 +13,7 @@ class Media;
 class Programs;
 class RandomSource;
 class Screens;
+class SessionStart;
 class TimerService;
 
 struct Platform {
@@ -22,6 +23,7 @@ struct Platform {
   Media& media;
   Dialogs& dialogs;
   Programs& programs;
+  SessionStart& session_start;
   RandomSource& random;
   Screens& screens;
   EventGate& gate;
