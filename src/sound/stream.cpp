@@ -27,11 +27,9 @@ void Stream::Pause() {
 }
 
 std::int32_t Stream::PositionMs() const {
-  const std::int32_t position = MillisecondsOf(handed_out_.load(std::memory_order_relaxed), kMixRate);
-  // Rounding to the mixer's rate and then to milliseconds may differ from the length by one; nobody shall see
-  // that.
-  const bool rounded_short = at_end_.load(std::memory_order_relaxed) && position == length_ms_ - 1;
-  return rounded_short ? length_ms_ : std::min(position, length_ms_);
+  // At its end an item has come to its length, whatever its header or the rounding of rates said before.
+  if (at_end_.load(std::memory_order_relaxed)) return length_ms_;
+  return std::min(MillisecondsOf(handed_out_.load(std::memory_order_relaxed), kMixRate), length_ms_);
 }
 
 Levels Stream::TakeLevels() {

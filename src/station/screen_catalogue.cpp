@@ -9,6 +9,8 @@
 #include "station/console/help.h"
 #include "station/console/not_built.h"
 #include "station/console/splash.h"
+#include "station/picklist/pick_list_form1.h"
+#include "station/picklist/pick_list_form2.h"
 #include "station/random/random_form1.h"
 #include "station/random/random_form2.h"
 #include "station/random/random_setup.h"
@@ -34,6 +36,8 @@ ScreenRegistry::Catalogue StationScreens() {
       {"InstallInfo", Make<InstallInfo>},
       {"InstallInfo2", Make<InstallInfo2>},
       {"MMregOCX", Make<MMregOCX>},
+      {"PickListForm1", Make<PickListForm1>},
+      {"PickListForm2", Make<PickListForm2>},
       {"NotBuilt", Make<NotBuilt>},
       {"QXHelp", Make<QXHelp>},
       {"RandomForm1", Make<RandomForm1>},

@@ -27,13 +27,26 @@ Status WriteNumberSetting(Files& files, std::string_view path, int value) {
 
 RestartRecord ReadRestartRecord(Files& files) {
   const std::string content = files.Read(station_paths::kReset).value_or({});
-  std::vector<std::string> values = ReadValues(content, 3);
-  values.resize(3);
-  return {.running = values[0] == "1", .mode = values[1], .template_name = values[2]};
+  std::vector<std::string> values = ReadValues(content, 4);
+  values.resize(4);
+  return {.running = values[0] == "1",
+          .mode = values[1],
+          .template_name = values[2],
+          .event_number = WholeValue(values[3])};
 }
 
 Status WriteRunningRecord(Files& files, std::string_view mode, std::string_view template_name) {
   const WriteForm form = WriteForm().Text("1").Text(mode).Text(template_name).Text("");
+  return files.Write(station_paths::kReset, form.bytes(), Durability::kFlushed);
+}
+
+Status WritePickListRecord(Files& files, std::string_view template_name, int event_number) {
+  const WriteForm form = WriteForm().Text("1").Text(kPickListMode).Text(template_name).Number(event_number);
+  return files.Write(station_paths::kReset, form.bytes(), Durability::kFlushed);
+}
+
+Status WriteDayChangeRecord(Files& files, std::string_view template_name, int event_number) {
+  const WriteForm form = WriteForm().Text("").Text("").Text(template_name).Number(event_number);
   return files.Write(station_paths::kReset, form.bytes(), Durability::kFlushed);
 }
 

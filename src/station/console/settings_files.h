@@ -25,6 +25,7 @@ struct RestartRecord {
   bool running = false;
   std::string mode;           // "RANDOM" or "PICKLIST"
   std::string template_name;  // Random: may be empty
+  int event_number = 0;       // Pick-List: the event that was in turn
 };
 inline constexpr std::string_view kRandomMode = "RANDOM";
 inline constexpr std::string_view kPickListMode = "PICKLIST";
@@ -32,6 +33,10 @@ inline constexpr std::string_view kPickListMode = "PICKLIST";
 /// A missing record is one of no run.
 RestartRecord ReadRestartRecord(Files& files);
 Status WriteRunningRecord(Files& files, std::string_view mode, std::string_view template_name);
+/// Of Pick-List playback, rewritten at each event.
+Status WritePickListRecord(Files& files, std::string_view template_name, int event_number);
+/// Between two daily templates: no run, but a name and an event for the load that follows at once.
+Status WriteDayChangeRecord(Files& files, std::string_view template_name, int event_number);
 /// What every orderly end leaves.
 Status WriteCleanExitRecord(Files& files);
 

@@ -68,6 +68,10 @@ void ChannelBank::CloseAll() {
   for (MediaControl* channel : {&MMControl1, &MMControl2, &MMControl3}) channel->Command("close");
 }
 
+bool ChannelBank::AnythingSounds() const {
+  return MMControl1.Mode() == ChannelMode::kPlaying || MMControl2.Mode() == ChannelMode::kPlaying;
+}
+
 bool ChannelBank::TwoSongsBegan(int milliseconds) const {
   return SongBegan(MMControl1, milliseconds) && SongBegan(MMControl2, milliseconds);
 }

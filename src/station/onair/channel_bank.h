@@ -28,6 +28,8 @@ class ChannelBank {
   void ResumeAll();  // those of 1, 2, 3 that are paused
   void RewindAll();
   void CloseAll();
+  /// Channel 1 or 2 plays.
+  bool AnythingSounds() const;
   /// Both channels play songs, each of them no further than `milliseconds`: the only sign of two that were
   /// started over each other.
   bool TwoSongsBegan(int milliseconds) const;

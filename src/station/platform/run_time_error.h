@@ -15,6 +15,7 @@ namespace quixair {
 
 enum class RunTimeError {
   kNone = 0,
+  kOverflow = 6,
   kSubscriptOutOfRange = 9,
   kTypeMismatch = 13,
   kBadFileName = 52,

@@ -40,22 +40,11 @@ void RandomForm1::AddErrorRow(std::string row) {
 
 OnAirStatus RandomForm1::on_air_status() const {
   const RunState& run = playback_->context().run;
-  const MediaControl& second = Channels.MMControl2;
-  const bool on_second = run.ActiveChannel == 2 || Channels.MMControl1.Mode() == ChannelMode::kNotOpen;
-  const MediaControl& active =
-      on_second && second.Mode() != ChannelMode::kNotOpen ? second : Channels.MMControl1;
-  OnAirStatus status;
+  OnAirStatus status = StatusOf(Channels, {.running = run.running,
+                                           .live_now = run.live_now,
+                                           .paused = run.AudioPaused == 1,
+                                           .active_channel = run.ActiveChannel});
   status.stop_set = run.StopSetActive == 1;
-  status.length_seconds = active.Length() / 1000.0;
-  status.elapsed_seconds = active.Position() / 1000.0;
-  if (!run.running) return status;
-  if (run.live_now) {
-    status.state = AirState::kLive;
-  } else if (run.AudioPaused == 1) {
-    status.state = AirState::kPaused;
-  } else {
-    status.state = active.Mode() == ChannelMode::kPlaying ? AirState::kPlaying : AirState::kSilent;
-  }
   return status;
 }
 

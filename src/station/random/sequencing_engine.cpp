@@ -218,14 +218,8 @@ void SequencingEngine::ReportEmpty(const MediaControl& channel) {
   Refuse(channel.file_name() + " = Empty!!!");
 }
 
-bool SequencingEngine::AnythingSounds() {
-  const ChannelBank& channels = context_.screen.Channels;
-  return channels.MMControl1.Mode() == ChannelMode::kPlaying ||
-         channels.MMControl2.Mode() == ChannelMode::kPlaying;
-}
-
 void SequencingEngine::Verify(const WorkingItem& item, const Started& started) {
-  if (!AnythingSounds()) return;  // nothing could be started in its place either: no proof of airing
+  if (!context_.screen.Channels.AnythingSounds()) return;  // nothing could be started in its place either: no proof of airing
   context_.faults.ItemSounds();
   if (!context_.screen.Switches.verification_on() || !IsVerified(item.RecordingId)) return;
   const Status written = LogVerification(context_.platform.files, context_.platform.clock.Now(),

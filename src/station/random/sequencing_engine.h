@@ -56,7 +56,6 @@ class SequencingEngine {
   void ReportEmpty(const MediaControl& channel);
   void Verify(const WorkingItem& item, const Started& started);
   void FinishStep();
-  bool AnythingSounds();
 
   // stop_set_step.cpp
   void PlayStopSetRow();

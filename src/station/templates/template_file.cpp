@@ -73,6 +73,10 @@ Result<std::vector<TemplateEvent>> ParseTemplate(std::string_view content) {
   return std::move(parsed.events);
 }
 
+bool StopsInMidRecord(std::string_view content) {
+  return ParseUntilTorn(content).torn;
+}
+
 std::vector<TemplateEvent> ReadableEvents(std::string_view content) {
   return ParseUntilTorn(content).events;
 }

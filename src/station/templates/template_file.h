@@ -34,6 +34,8 @@ EventKind KindOfEvent(std::string_view event_id);
 /// readers differ in what they make of those. 62 when the file stops in the middle of a record, with the
 /// events before it lost to readers that need them all; ReadableEvents gives those.
 Result<std::vector<TemplateEvent>> ParseTemplate(std::string_view content);
+/// Whether the file stops in the middle of a record.
+bool StopsInMidRecord(std::string_view content);
 /// The same for readers that stop without a word at the end of file.
 std::vector<TemplateEvent> ReadableEvents(std::string_view content);
 /// Events up to the first empty id, at most `limit` lines: how the rotation file is read.

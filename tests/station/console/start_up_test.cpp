@@ -17,7 +17,7 @@ TEST_F(ConsoleStartUp, RestartSwitchAndRecord_DecideWhatOpens) {
     const char *name, *reset_on, *reset, *opens;
   } cases[] = {
       {"running Random", "\"1\"\r\n", "\"1\"\r\n\"RANDOM\"\r\n\"\"\r\n\"\"\r\n", "RandomForm1"},
-      {"running Pick-List", "\"1\"\r\n", "\"1\"\r\n\"PICKLIST\"\r\n\"A.TPP\"\r\n7\r\n", "NotBuilt"},
+      {"running Pick-List", "\"1\"\r\n", "\"1\"\r\n\"PICKLIST\"\r\n\"A.TPP\"\r\n2\r\n", "PickListForm1"},
       {"clean record", "\"1\"\r\n", kCleanRecord, ""},
       {"no run, yet a mode", "\"1\"\r\n", "\"0\"\r\n\"RANDOM\"\r\n\"\"\r\n\"\"\r\n", ""},
       {"switch off", "\"0\"\r\n", "\"1\"\r\n\"RANDOM\"\r\n\"\"\r\n\"\"\r\n", ""},
@@ -28,6 +28,9 @@ TEST_F(ConsoleStartUp, RestartSwitchAndRecord_DecideWhatOpens) {
       {"record torn behind the flag", "\"1\"\r\n", "\"1\"\r\n\"RAN", ""},
   };
   AddLibrary(3, 2, 2);
+  PutTemplate("A.TPP", {"M0001", "M0002", "M0003"});
+  PutFile("QXAIR/PIKMODE.DTA", "\"0\"\r\n");
+  PutFile("QXAIR/STOREPIK.DTA", "\"A.TPP\"\r\n");
   for (const auto& [name, reset_on, reset, opens] : cases) {
     SCOPED_TRACE(name);
     for (const auto& [file, content] :
@@ -36,7 +39,7 @@ TEST_F(ConsoleStartUp, RestartSwitchAndRecord_DecideWhatOpens) {
       if (content != nullptr) PutFile(file, content);
     }
     StartConsole();
-    for (const char* screen : {"RandomForm1", "NotBuilt"}) {
+    for (const char* screen : {"RandomForm1", "PickListForm1"}) {
       EXPECT_EQ(IsOpen(screen), std::string(opens) == screen) << screen;
     }
     EXPECT_TRUE(IsOpen("frmSplash")) << "the splash runs over a restart too";

@@ -1,0 +1,115 @@
+#include "station/picklist/event_table.h"
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include "station/console/station_paths.h"
+#include "station/console/value_form.h"
+#include "station/library/recording_file.h"
+#include "station/platform/text.h"
+#include "station/templates/template_file.h"
+
+namespace quixair {
+namespace {
+
+constexpr std::string_view kEmptyPlace = "EMPTY!!!";
+constexpr std::size_t kDataLines = 5;
+constexpr std::size_t kTitleInRow = 8;
+// The screen's running total is a 16-bit number: nine hours.
+constexpr int kMostSeconds = std::numeric_limits<std::int16_t>::max();
+
+}  // namespace
+
+bool IsPauseEvent(std::string_view event_id) {
+  return KindOfEvent(event_id) == EventKind::kPause;
+}
+
+bool IsTimeEvent(std::string_view event_id) {
+  return KindOfEvent(event_id) == EventKind::kTimeAnnouncement;
+}
+
+bool StartsNoChannel(std::string_view event_id) {
+  return event_id.starts_with('>');
+}
+
+bool IsNoRecording(std::string_view event_id) {
+  const EventKind kind = KindOfEvent(event_id);
+  return kind == EventKind::kPause || kind == EventKind::kTimeAnnouncement || kind == EventKind::kReserved ||
+         event_id.starts_with("EM");
+}
+
+Status EventTable::ReadTemplate(Files& files, std::string_view template_name) {
+  events_.clear();
+  const Result<std::string> content = files.Read(station_paths::TemplateFile(template_name));
+  if (!content.ok()) return content.status();
+  for (TemplateEvent& event : ReadableEvents(content.value())) {
+    events_.push_back({std::move(event.EventId), {}, {}, std::move(event.EventTitle), {}});
+  }
+  Cut();
+  return StopsInMidRecord(content.value()) ? RunTimeError::kInputPastEnd : RunTimeError::kNone;
+}
+
+Status EventTable::ReadHandOver(Files& files) {
+  events_.clear();
+  const Result<std::string> content = files.Read(station_paths::kPickList);
+  if (!content.ok()) return content.status();
+  const std::vector<std::string> ids = ReadValues(content.value(), kCapacity + 1);
+  for (const std::string& id : ids) events_.push_back({id, {}, {}, {}, {}});
+  Cut();
+  for (PickListEvent& event : events_) {
+    if (event.EventId.empty()) event.EventId = kEmptyPlace;
+  }
+  return ids.empty() ? RunTimeError::kInputPastEnd : RunTimeError::kNone;
+}
+
+/// The empty event at the end closes the list and is none; what is more than the table holds is left out.
+void EventTable::Cut() {
+  if (!events_.empty() && events_.back().EventId.empty()) events_.pop_back();
+  if (events_.size() > kCapacity) events_.resize(kCapacity);
+}
+
+Status EventTable::ReadDataFiles(Files& files) {
+  RunTimeError fault = RunTimeError::kNone;
+  total_seconds_ = 0;
+  for (PickListEvent& event : events_) {
+    event.EventLength = "0";
+    event.EventField4.clear();
+    if (IsNoRecording(event.EventId)) continue;
+    std::vector<std::string> fields = ReadLeadingFields(files, event.EventId, kDataLines);
+    if (!fields[0].empty()) event.EventLength = std::move(fields[0]);
+    event.EventDrive = std::move(fields[2]);
+    event.EventField4 = fields[3].empty() ? std::string("[Empty?]") : std::move(fields[3]);
+    event.EventField5 = std::move(fields[4]);
+    const int total = total_seconds_ + RoundedSeconds(event.EventLength);
+    if (total > kMostSeconds) {
+      fault = RunTimeError::kOverflow;
+    } else {
+      total_seconds_ = total;
+    }
+  }
+  return fault;
+}
+
+const PickListEvent& EventTable::event(int number) const {
+  static const PickListEvent kNothing;
+  const bool behind_the_last = number == EventCount() + 1;
+  if (number < 1 || (number > kCapacity && !behind_the_last))
+    OrEndProgram(RunTimeError::kSubscriptOutOfRange);
+  return number <= EventCount() ? events_[static_cast<std::size_t>(number - 1)] : kNothing;
+}
+
+const std::string& EventTable::next_id(int number) const {
+  static const std::string kNone;
+  return number < EventCount() ? event(number + 1).EventId : kNone;
+}
+
+int RoundedSeconds(std::string_view length) {
+  return static_cast<int>(std::nearbyint(NumericValue(length)));
+}
+
+std::string EventRow(int number, const PickListEvent& event) {
+  return std::to_string(number) + ' ' + event.EventId + ' ' + event.EventField5.substr(0, kTitleInRow);
+}
+
+}  // namespace quixair
