@@ -1,5 +1,9 @@
 #include "bench_station.h"
 
+#include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -140,8 +144,33 @@ void BenchStation::PutStopSets(int sets, int rows) const {
   Put(folder_ / "QXAIR" / "RANDDATA.DTA", FormatRandomSettings(settings));
 }
 
+void BenchStation::PutPickLists(int events) const {
+  std::vector<TemplateEvent> list;
+  for (int i = 1; i <= events; ++i) list.push_back({Id("M%05d", i), "Title"});
+  for (const char* day : {"SUN", "MON", "TUE", "WED", "THU", "FRI", "SAT"}) {
+    Put(folder_ / "QXTEMPLT" / (std::string(day) + ".TPT"), FormatTemplate(list));
+  }
+  Put(folder_ / "QXAIR" / "PIKMODE.DTA", "\"0\"\r\n");
+  Put(folder_ / "QXAIR" / "STOREPIK.DTA", "\"SUN.TPT\"\r\n");
+}
+
 void BenchStation::PutOverlap(int seconds) const {
   Put(folder_ / "QXAIR" / "overlap.dta", WriteForm().Text(std::to_string(seconds)).bytes());
+}
+
+double SecondsOf(const std::function<void()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+void ReadAll(const std::vector<std::string>& files) {
+  char buffer[4096];
+  for (const std::string& file : files) {
+    const int fd = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    benchmark::DoNotOptimize(::read(fd, buffer, sizeof buffer));
+    ::close(fd);
+  }
 }
 
 double PeakMebibytes() {

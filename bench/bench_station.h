@@ -4,6 +4,7 @@
 // whose audio files are stand-ins that hold their length in milliseconds as text.
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,8 @@ class BenchStation {
   /// Stop sets by the clock: for each day of the week a template of `sets` sets, evenly over the day, of `rows` spots.
   void PutStopSets(int sets, int rows) const;
   void PutOverlap(int seconds) const;
+  /// A daily pick-list for each day, of so many songs, and the files that hand Sunday's over to playback.
+  void PutPickLists(int events) const;
   const std::filesystem::path& folder() const { return folder_; }
 
  private:
@@ -41,6 +44,10 @@ double PeakMebibytes();
 void ResetPeakMemory();
 /// The resident memory of this moment.
 double ResidentMebibytes();
+
+double SecondsOf(const std::function<void()>& work);
+/// Opens, reads and closes each file: what no load can be faster than.
+void ReadAll(const std::vector<std::string>& files);
 
 void OpenRandom(simulation::SimulatedStation& station);
 /// What the operator does in the frame that asks for a template.

@@ -2,8 +2,6 @@
 // day.
 
 #include <benchmark/benchmark.h>
-#include <fcntl.h>
-#include <unistd.h>
 
 #include "bench_station.h"
 #include "station/platform/controls.h"
@@ -15,22 +13,6 @@ namespace quixair::bench {
 namespace {
 
 constexpr int kSongMs = 180000;
-
-double SecondsOf(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-/// Opens, reads and closes each file: what no load can be faster than.
-void ReadAll(const std::vector<std::string>& files) {
-  char buffer[4096];
-  for (const std::string& file : files) {
-    const int fd = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
-    benchmark::DoNotOptimize(::read(fd, buffer, sizeof buffer));
-    ::close(fd);
-  }
-}
 
 /// Counters: floor_s, load_s and their ratio in the same runs (goal 1.5), peak memory.
 void RandomLoad(benchmark::State& state) {
@@ -149,5 +131,3 @@ BENCHMARK(VirtualWeek)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace quixair::bench
-
-BENCHMARK_MAIN();
