@@ -9,8 +9,11 @@
 #include "desktop/views/fitted_text.h"
 #include "desktop/views/item_progress.h"
 #include "desktop/views/level_meters.h"
+#include "desktop/views/marked_lists.h"
 #include "desktop/views/state_lamp.h"
+#include "desktop/views/stop_set_panel.h"
 #include "desktop/views/transport_bar.h"
+#include "desktop/views/warning_banner.h"
 
 namespace quixair::desktop {
 namespace {
@@ -23,6 +26,10 @@ QWidget* MakeCustom(const QString& class_name, QWidget* parent) {
   if (class_name == QLatin1String("StateLamp")) return new StateLamp(parent);
   if (class_name == QLatin1String("ItemProgress")) return new ItemProgress(parent);
   if (class_name == QLatin1String("LevelMeters")) return new LevelMeters(parent);
+  if (class_name == QLatin1String("StopSetPanel")) return new StopSetPanel(parent);
+  if (class_name == QLatin1String("WarningBanner")) return new WarningBanner(parent);
+  if (class_name == QLatin1String("StopSetRows")) return new StopSetRows(parent);
+  if (class_name == QLatin1String("DayTemplates")) return new DayTemplates(parent);
   return nullptr;
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/row_list.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <algorithm>
@@ -12,6 +13,26 @@ namespace quixair::desktop {
 namespace {
 constexpr int kRowPadding = 4;
 constexpr int kSidePadding = 16;  // both sides, as in the style sheet, and a little more
+
+QVariant Shown(const QString& text, const RowLook& look, int role) {
+  const QPalette palette = QApplication::palette();
+  QFont bold;
+  bold.setBold(true);
+  switch (role) {
+    case Qt::DisplayRole:
+      return text + look.note;
+    case Qt::ToolTipRole:
+      return text;
+    case Qt::FontRole:
+      return look.bold ? QVariant(bold) : QVariant();
+    case Qt::ForegroundRole:
+      if (look.faded) return palette.color(QPalette::Disabled, QPalette::Text);
+      if (look.colored) return palette.color(QPalette::Link);
+      return {};
+    default:
+      return {};
+  }
+}
 }  // namespace
 
 void ListRows::SetSource(const ListBox* source) {
@@ -41,10 +62,14 @@ int ListRows::rowCount(const QModelIndex& parent) const {
 
 QVariant ListRows::data(const QModelIndex& index, int role) const {
   if (role == Qt::SizeHintRole) return row_size_;
-  if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   // The control may hold fewer rows already; the reset that shows it is on its way.
   if (source_ == nullptr || index.row() >= source_->row_count()) return {};
-  return ToQt(source_->row(index.row()));
+  const std::string& row = source_->row(index.row());
+  return Shown(ToQt(row), look_of ? look_of(row) : RowLook(), role);
+}
+
+std::vector<std::string> ListRows::rows() const {
+  return source_ != nullptr ? source_->rows() : std::vector<std::string>();
 }
 
 RowList::RowList(QWidget* parent) : QListView(parent), rows_(nullptr) {
@@ -74,7 +99,7 @@ void RowList::ShowSelection(const std::vector<int>& rows) {
   for (const int row : rows) selectionModel()->select(rows_.index(row), QItemSelectionModel::Select);
   if (rows.empty()) return;
   selectionModel()->setCurrentIndex(rows_.index(rows.front()), QItemSelectionModel::NoUpdate);
-  scrollTo(rows_.index(rows.front()));
+  scrollTo(rows_.index(rows.front()), selection_place_);
 }
 
 std::vector<int> RowList::SelectedRows() const {
@@ -111,9 +136,23 @@ void RowList::mouseDoubleClickEvent(QMouseEvent* event) {
   if (indexAt(event->position().toPoint()).isValid() && on_double_click) on_double_click();
 }
 
+/// The first arrow key in a list without a choice chooses the row that the keyboard stands on, which the
+/// toolkit would pass over.
+bool RowList::ChoosesFirst(const QKeyEvent& event) {
+  const bool arrow = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
+  if (!arrow || event.modifiers() != Qt::NoModifier || selectionMode() != SingleSelection) return false;
+  if (selectionModel()->hasSelection() || !currentIndex().isValid()) return false;
+  selectionModel()->select(currentIndex(), QItemSelectionModel::Select);
+  return true;
+}
+
 void RowList::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     if (on_enter) on_enter();
+    return;
+  }
+  if (ChoosesFirst(*event)) {
+    TellSelection();
     return;
   }
   const std::vector<int> before = SelectedRows();

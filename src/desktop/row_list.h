@@ -8,6 +8,8 @@
 #include <QAbstractListModel>
 #include <QListView>
 #include <functional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace quixair {
@@ -15,6 +17,14 @@ class ListBox;
 }
 
 namespace quixair::desktop {
+
+/// How a row departs from the others.
+struct RowLook {
+  bool bold = false;
+  bool colored = false;  // in the colour of links
+  bool faded = false;
+  QString note = {};  // behind the text
+};
 
 /// The rows of a list box as they were at the last Reset; texts are converted when they are looked at.
 class ListRows : public QAbstractListModel {
@@ -26,6 +36,11 @@ class ListRows : public QAbstractListModel {
   void Reset();
   QSize row_size() const { return row_size_; }
   void SetFontMetrics(const QFontMetrics& metrics);
+  /// Empty when there is no source.
+  std::vector<std::string> rows() const;
+
+  /// Asked for the rows in sight only; none for a list whose rows look all the same.
+  std::function<RowLook(std::string_view row)> look_of;
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
@@ -59,7 +74,10 @@ class RowList : public QListView {
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
 
+  ScrollHint selection_place_ = EnsureVisible;  // where the station's choice is scrolled to
+
  private:
+  bool ChoosesFirst(const QKeyEvent& event);
   std::vector<int> SelectedRows() const;
   void TellSelection();
 

@@ -67,7 +67,8 @@ QListView::item:selected { background: @accent; color: @accent_text; }
 QListView::item:selected:disabled { background: @line; color: @text; }
 QLabel[role="status"] { background: @panel; border-radius: 6px; border: 1px solid @line; padding: 4px 14px; }
 QLineEdit[role="hint"] { background: transparent; border: none; padding: 0px; color: @muted; }
-QLineEdit[role="notice"] { background: @notice; color: @notice_text; border: 1px solid @notice_line; padding: 2px 8px; }
+QLineEdit[role="notice"], QLabel[role="notice"] { background: @notice; color: @notice_text; border: 1px solid @notice_line; padding: 2px 8px; }
+QLabel[role="notice"] { border-radius: 4px; }
 
 QGroupBox { background: @panel; border: 1px solid @line; border-radius: 6px; margin: 0; padding-top: 17px; }
 QGroupBox::title { subcontrol-origin: border; subcontrol-position: top left; left: 10px; top: 3px; color: @muted; }
