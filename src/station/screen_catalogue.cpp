@@ -9,10 +9,9 @@
 #include "station/console/help.h"
 #include "station/console/not_built.h"
 #include "station/console/splash.h"
+#include "station/onair/start_time_prompt.h"
 #include "station/picklist/pick_list_form1.h"
-#include "station/picklist/pick_list_form2.h"
 #include "station/random/random_form1.h"
-#include "station/random/random_form2.h"
 #include "station/random/random_setup.h"
 
 namespace quixair {

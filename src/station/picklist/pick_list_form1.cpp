@@ -3,10 +3,6 @@
 #include "station/picklist/pick_list_playback.h"
 
 namespace quixair {
-namespace {
-constexpr int kMaxErrorRows = 500;  // a run lasts for weeks; the error log file keeps them all
-}
-
 PickListForm1::PickListForm1(const Platform& platform)
     : Screen(platform, "PickListForm1", "Pick-List Playback Mode [V.4X]"),
       playback_(std::make_unique<PickListPlayback>(*this)) {
@@ -25,11 +21,6 @@ void PickListForm1::Load() {
 
 void PickListForm1::CloseWindow() {
   playback_->EndRun();
-}
-
-void PickListForm1::AddErrorRow(std::string row) {
-  List6.AddRow(std::move(row));
-  if (List6.row_count() > kMaxErrorRows) List6.RemoveRow(1);  // below the heading
 }
 
 OnAirStatus PickListForm1::on_air_status() const {

@@ -12,6 +12,7 @@
 
 #include "station/console/station_paths.h"
 #include "station/onair/channel_bank.h"
+#include "station/onair/error_list.h"
 #include "station/onair/on_air_status.h"
 #include "station/onair/overlap_choice.h"
 #include "station/onair/playback_switches.h"
@@ -71,8 +72,8 @@ class PickListForm1 : public Screen, public OnAirScreen {
 
   // lists
   ListBox List3{*this, "List3"};  // the events of the run
-  Label Label6Errors{*this, "LabelErrors", "Empty File/Error Log"};
-  ListBox List6{*this, "List6"};  // error log of this screen
+  Label LabelErrors{*this, "LabelErrors", "Empty File/Error Log"};
+  ErrorList List6{*this};  // error log of this screen
 
   // settings
   OverlapChoice Overlap{*this, "Label5", "Command3"};
@@ -95,9 +96,6 @@ class PickListForm1 : public Screen, public OnAirScreen {
   Timer Timer2{*this, "Timer2"};  // polls the channels
   Timer Timer3{*this, "Timer3"};  // finds the overlap point
   StartTimeFrame StartTime{*this, Label2, Timer1, "Start Time = (MANUAL)"};
-
-  /// Adds a row to the screen's error log; the oldest rows go when it has grown long.
-  void AddErrorRow(std::string row);
 
  private:
   std::unique_ptr<PickListPlayback> playback_;

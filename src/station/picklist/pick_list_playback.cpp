@@ -19,7 +19,7 @@ PickListPlayback::PickListPlayback(PickListForm1& screen)
                .events = {},
                .state = {},
                .faults = AirFaultLog(screen.platform().files, screen.platform().clock, ModeLetter::kPickList,
-                                     [&screen](std::string row) { screen.AddErrorRow(std::move(row)); })},
+                                     [&screen](std::string row) { screen.List6.AddFault(std::move(row)); })},
       engine_(context_),
       controls_(context_, engine_),
       watcher_(context_, engine_, controls_),
@@ -197,7 +197,7 @@ void PickListPlayback::FillLists() {
     screen.Overlap.save.Hide();
     screen.Overlap.caption.SetCaption("[Can't Overlap]");
   }
-  screen.AddErrorRow("-- error log --");
+  screen.List6.AddFault("-- error log --");
   screen.Text1.SetText("Ready to Begin Playback.  Press START to begin, or QUIT to Exit");
 }
 
@@ -208,7 +208,7 @@ void PickListPlayback::StartByItself() {
   state.AutoRestarted = 0;
   const CivilTime now = context_.platform.clock.Now();
   const std::string row = "Auto-Restart Complete: " + HourMinuteSecond24(now) + "  " + ShortDate(now);
-  context_.screen.AddErrorRow(row);
+  context_.screen.List6.AddFault(row);
   SkipAndGoOn(LogError(context_.platform.files, ErrorLineStart(ModeLetter::kPickList, now) + ' ' + row));
   controls_.Start();
 }

@@ -137,7 +137,8 @@ void DayScheduler::LoadSatTemp() {
   }
   context_.stop_sets = StopSetList::Load(context_.platform.files, content.value());
   ShowRows();
-  if (!IsOfAnotherDay(run.TemplateName, context_.platform.clock.Now())) screen.Label9.Hide();
+  screen.Label9.Hide();
+  TellWrongDay(context_.platform.clock.Now());  // before the run too: there is still time to choose another
   if (run.RestartPending != 1) return;
   run.RestartPending = 0;
   screen.Frame2.Hide();
@@ -160,7 +161,7 @@ void DayScheduler::ShowRows() {
   for (int number = 1; number <= list.count(); ++number) screen.List7.AddRow(list.row(number).EventId);
   // The clock never meets these, and nothing else would say so.
   for (const std::string& time : list.MistypedTimes()) {
-    screen.AddErrorRow(time + " = Not a Time as 09:05 AM");
+    screen.List6.AddFault(time + " = Not a Time as 09:05 AM");
   }
 }
 

@@ -4,10 +4,6 @@
 #include "station/random/random_playback.h"
 
 namespace quixair {
-namespace {
-constexpr int kMaxErrorRows = 500;  // a run lasts for weeks; the error log file keeps them all
-}
-
 RandomForm1::RandomForm1(const Platform& platform)
     : Screen(platform, "RandomForm1", "Random Playback Mode  [4X]"),
       playback_(std::make_unique<RandomPlayback>(*this)) {
@@ -31,11 +27,6 @@ RandomForm1::~RandomForm1() = default;
 
 void RandomForm1::Load() {
   playback_->Load();
-}
-
-void RandomForm1::AddErrorRow(std::string row) {
-  List6.AddRow(std::move(row));
-  if (List6.row_count() > kMaxErrorRows) List6.RemoveRow(1);  // below the heading
 }
 
 OnAirStatus RandomForm1::on_air_status() const {

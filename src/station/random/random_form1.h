@@ -12,6 +12,7 @@
 
 #include "station/console/station_paths.h"
 #include "station/onair/channel_bank.h"
+#include "station/onair/error_list.h"
 #include "station/onair/on_air_status.h"
 #include "station/onair/overlap_choice.h"
 #include "station/onair/playback_switches.h"
@@ -67,7 +68,7 @@ class RandomForm1 : public Screen, public OnAirScreen {
                "Stop-Set Rotation List"};  // or the template's name, or that stop sets are off
   ListBox List7{*this, "List7"};           // stop-set rotation list
   Label Label5{*this, "Label5", "Empty File/Error Log"};
-  ListBox List6{*this, "List6"};  // error log of this screen
+  ErrorList List6{*this};  // error log of this screen
 
   // settings
   Button Command3{*this, "Command3", "Hide Setti&ngs"};
@@ -98,9 +99,6 @@ class RandomForm1 : public Screen, public OnAirScreen {
   Timer Timer3{*this, "Timer3"};  // finds the overlap point
   Timer Timer4{*this, "Timer4"};  // reads the settings again
   StartTimeFrame StartTime{*this, Label2, Timer1, ""};
-
-  /// Adds a row to the screen's error log; the oldest rows go when it has grown long.
-  void AddErrorRow(std::string row);
 
  private:
   std::unique_ptr<RandomPlayback> playback_;  // what plays: pools, run, engine, watcher, operator's acts

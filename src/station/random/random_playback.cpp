@@ -34,7 +34,7 @@ RandomPlayback::RandomPlayback(RandomForm1& screen)
                .stop_sets = {},
                .run = {},
                .faults = AirFaultLog(screen.platform().files, screen.platform().clock, ModeLetter::kRandom,
-                                     [&screen](std::string row) { screen.AddErrorRow(std::move(row)); })},
+                                     [&screen](std::string row) { screen.List6.AddFault(std::move(row)); })},
       engine_(context_),
       controls_(context_, engine_),
       scheduler_(context_),
@@ -93,8 +93,11 @@ void RandomPlayback::Load() {
   screen.Overlap.ReadFile();
   screen.Overlap.save.Hide();
   screen.Overlap.save.Disable();
-  screen.Text1.SetText("Ready to Begin Playback.  Press START to begin, or QUIT to Exit");
-  screen.Start.SetFocus();
+  // Not over a run that a power cut's record has started, nor over the frame that asks for a template.
+  if (!context_.run.running && !screen.Frame2.visible()) {
+    screen.Text1.SetText("Ready to Begin Playback.  Press START to begin, or QUIT to Exit");
+    screen.Start.SetFocus();
+  }
   screen.Timer4.SetInterval(kSettingsTick);
   screen.SetTitle("Random Playback Mode  [4X]");
 }
@@ -105,7 +108,7 @@ void RandomPlayback::PrepareScreen() {
   screen.Channels.MMControl2.Command("Close");
   screen.Run.HideBeforeRun();
   screen.Timer2.SetEnabled(true);
-  screen.AddErrorRow("-- error log --");
+  screen.List6.AddFault("-- error log --");
   SkipAndGoOn(WriteTextSetting(context_.platform.files, station_paths::kResetRandom, "0"));
 }
 
@@ -222,7 +225,7 @@ void RandomPlayback::LoadStatus(bool at_load) {
 void RandomPlayback::AnnounceRestart() {
   const CivilTime now = context_.platform.clock.Now();
   const std::string time = HourMinuteSecond24(now);
-  context_.screen.AddErrorRow(ShortDate(now) + "  Auto-Restart Complete: " + time);
+  context_.screen.List6.AddFault(ShortDate(now) + "  Auto-Restart Complete: " + time);
   // Two blanks on purpose: the engineer's eye finds the line by them.
   SkipAndGoOn(LogError(
       context_.platform.files,

@@ -219,7 +219,8 @@ void SequencingEngine::ReportEmpty(const MediaControl& channel) {
 }
 
 void SequencingEngine::Verify(const WorkingItem& item, const Started& started) {
-  if (!context_.screen.Channels.AnythingSounds()) return;  // nothing could be started in its place either: no proof of airing
+  if (!context_.screen.Channels.AnythingSounds())
+    return;  // nothing could be started in its place either: no proof of airing
   context_.faults.ItemSounds();
   if (!context_.screen.Switches.verification_on() || !IsVerified(item.RecordingId)) return;
   const Status written = LogVerification(context_.platform.files, context_.platform.clock.Now(),
