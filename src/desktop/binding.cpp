@@ -156,6 +156,7 @@ class ListBinding : public Binding {
     ShowSelection();
   }
   void ShowSelection() override { widget_.ShowSelection(list_.selected_rows()); }
+  void ShowTopRow() override { widget_.ShowFrom(list_.top_row()); }
 
  private:
   ListBox& list_;
@@ -215,6 +216,7 @@ void Binding::Apply() {
   if (is_marked(Aspect::kText)) ShowText();
   if (is_marked(Aspect::kRows)) ShowRows();
   if (is_marked(Aspect::kSelection)) ShowSelection();
+  if (is_marked(Aspect::kTopRow)) ShowTopRow();
   if (is_marked(Aspect::kTicked)) ShowTicked();
   if (is_marked(Aspect::kTransport)) ShowTransport();
   if (is_marked(Aspect::kColors)) ShowColors();

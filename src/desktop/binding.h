@@ -22,7 +22,7 @@ class Binding : public QObject {
   QWidget& widget() const { return widget_; }
 
   void Mark(Aspect aspect) { marked_ |= Bit(aspect); }
-  void MarkAll() { marked_ = ~0U & ~Bit(Aspect::kFocus); }
+  void MarkAll() { marked_ = ~0U & ~Bit(Aspect::kFocus) & ~Bit(Aspect::kTopRow); }
   /// Shows what was marked.
   void Apply();
   /// The control is about to be destroyed: neither side reaches the other any more.
@@ -35,6 +35,7 @@ class Binding : public QObject {
   virtual void ShowText() {}
   virtual void ShowRows() {}
   virtual void ShowSelection() {}
+  virtual void ShowTopRow() {}
   virtual void ShowTicked() {}
   virtual void ShowTransport() {}
   /// Runs the act of a person unless the control is gone.

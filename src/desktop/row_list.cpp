@@ -93,6 +93,10 @@ void RowList::ResetRows() {
   }
 }
 
+void RowList::ShowFrom(int row) {
+  scrollTo(rows_.index(row), PositionAtTop);
+}
+
 void RowList::ShowSelection(const std::vector<int>& rows) {
   if (SelectedRows() == rows) return;
   selectionModel()->clearSelection();

@@ -60,6 +60,8 @@ class RowList : public QListView {
   /// Shows the rows anew without losing the place; a list with the form's property "followsEnd" keeps its end
   /// in sight.
   void ResetRows();
+  /// Scrolls so that the row is the first one, or as far as the list goes.
+  void ShowFrom(int row);
   void ShowSelection(const std::vector<int>& rows);
 
   std::function<void(std::vector<int> rows)> on_select;

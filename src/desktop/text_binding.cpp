@@ -38,6 +38,7 @@ class LineBinding : public Binding {
     widget.installEventFilter(this);
     connect(&widget, &QLineEdit::textEdited, this,
             [this](const QString& text) { Act([this, &text] { box_.Edit(FromQt(text)); }); });
+    connect(&widget, &QLineEdit::returnPressed, this, [this] { Act([this] { box_.PressEnter(); }); });
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {

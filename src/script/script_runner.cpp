@@ -187,6 +187,7 @@ void ScriptRunner::DoubleClickStatement(const Arguments& words) {
 }
 
 void ScriptRunner::EnterStatement(const Arguments& words) {
+  if (auto* box = dynamic_cast<TextBox*>(&Acting<Control>(words[0]))) return box->PressEnter();
   Acting<ListBox>(words[0]).PressEnter();
 }
 

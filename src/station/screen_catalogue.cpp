@@ -13,6 +13,7 @@
 #include "station/picklist/pick_list_form1.h"
 #include "station/random/random_form1.h"
 #include "station/random/random_setup.h"
+#include "station/templates/build_template1.h"
 
 namespace quixair {
 namespace {
@@ -27,6 +28,7 @@ std::unique_ptr<Screen> Make(const Platform& platform) {
 ScreenRegistry::Catalogue StationScreens() {
   return {
       {"Autostart", Make<Autostart>},
+      {"BuildTemplate1", Make<BuildTemplate1>},
       {"Console", Make<Console>},
       {"CustomInformation", Make<CustomInformation>},
       {"ErrorLog", Make<ErrorLog>},

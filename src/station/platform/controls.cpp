@@ -125,6 +125,12 @@ void TextBox::TypeKey(char key) {
   });
 }
 
+void TextBox::PressEnter() {
+  RaiseForPerson([this] {
+    if (on_enter) on_enter();
+  });
+}
+
 void TextBox::Edit(std::string text) {
   RaiseForPerson([this, &text] {
     if (read_only() || text == text_) return;
@@ -170,6 +176,17 @@ void ListBox::Clear() {
   rows_.clear();
   selected_.clear();
   Changed(Aspect::kRows);
+}
+
+void ListBox::SetRows(std::vector<std::string> rows) {
+  rows_ = std::move(rows);
+  selected_.clear();
+  Changed(Aspect::kRows);
+}
+
+void ListBox::SetTopRow(int index) {
+  top_row_ = index;
+  Changed(Aspect::kTopRow);
 }
 
 std::string ListBox::selected_text() const {

@@ -67,7 +67,8 @@ enum class Aspect {
   kTicked,
   kFocus,
   kHint,
-  kTransport
+  kTransport,
+  kTopRow
 };
 
 /// What controls can lie in: a screen or one of its frames.
@@ -193,9 +194,11 @@ class TextBox : public Control {
   /// Sees each typed character before it reaches the text, and may replace it; 0 refuses it.
   std::function<void(char& key)> on_key_press;
   std::function<void()> on_lost_focus;
+  std::function<void()> on_enter;
 
   // acts of a person
   void TypeKey(char key);
+  void PressEnter();
   /// The whole text as an editor left it, for front ends that edit by themselves.
   void Edit(std::string text);
   void LeaveFocus();
@@ -220,6 +223,12 @@ class ListBox : public Control {
   void SetRow(int index, std::string row);
   void RemoveRow(int index);
   void Clear();
+  /// All rows at once, as they stand; nothing is selected afterwards.
+  void SetRows(std::vector<std::string> rows);
+
+  /// The row that a front end shows first, as far as its list is long enough.
+  int top_row() const { return top_row_; }
+  void SetTopRow(int index);
 
   /// -1 when nothing is selected.
   int selected_index() const { return selected_.empty() ? -1 : selected_.front(); }
@@ -246,6 +255,7 @@ class ListBox : public Control {
 
  private:
   Order order_;
+  int top_row_ = 0;
   bool several_ = false;
   std::vector<std::string> rows_;
   std::vector<int> selected_;

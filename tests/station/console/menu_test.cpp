@@ -81,6 +81,12 @@ constexpr Item kItems[] = {
 
 class ConsoleMenu : public StationFixture {
  protected:
+  void PutWhatTheEditorNeeds() {
+    AddLibrary(3, 2, 2);
+    for (const char* id : {"S1", "S2"}) AddSpot(id, 20000);
+    PutRotation({"S1", "S2"});
+  }
+
   ConsoleMenu() {
     station_.programs().on_run = [this](const std::string& command_line, WindowState window) {
       const char* states[] = {"", " minimised", " maximised"};
@@ -135,7 +141,7 @@ TEST_F(ConsoleMenu, Tree_HasTheseItemsInThisOrder) {
 }
 
 TEST_F(ConsoleMenu, EveryItem_LeadsWhereItSays) {
-  AddLibrary(3, 2, 2);
+  PutWhatTheEditorNeeds();
   const std::map<std::string, std::string> answers = {{"Exit", "Cancel"},
                                                       {"AudioDriver", "No"},
                                                       {"Announcer", "OK"},
@@ -152,6 +158,7 @@ TEST_F(ConsoleMenu, EveryItem_LeadsWhereItSays) {
 }
 
 TEST_F(ConsoleMenu, HandOverFiles_AreWrittenBeforeTheScreenOpens) {
+  PutWhatTheEditorNeeds();
   const struct {
     const char* item;
     std::map<std::string, std::string> files;

@@ -1,0 +1,187 @@
+// How the template editor reads and writes: the template's file with its faults, saving, playing, quitting.
+
+#include "station/console/settings_files.h"
+#include "station/console/station_paths.h"
+#include "station/library/recording_file.h"
+#include "station/platform/dialogs.h"
+#include "station/platform/text.h"
+#include "station/templates/build_template1.h"
+#include "station/templates/template_editor.h"
+
+namespace quixair {
+namespace {
+
+constexpr std::size_t kTemplateFields = 5;
+
+bool HasDataFile(const TemplateEvent& event) {
+  return KindOfEvent(event.EventId) == EventKind::kRecording;
+}
+
+}  // namespace
+
+void TemplateEditor::SetMode(int pik_mode) {
+  constexpr int kImmediate = 1;
+  constexpr int kSimpleSat = 2;
+  constexpr int kRotation = 3;
+  constexpr int kAssist = 4;
+  PlayMode = pik_mode == kImmediate || pik_mode == kAssist ? 1 : 0;
+  screen_.Command1.SetCaption(PlayMode == 1 ? "&Play" : "&Save");
+  screen_.localbreak.Enable(pik_mode == kSimpleSat);
+  screen_.Command4.Enable(pik_mode != kSimpleSat && pik_mode != kRotation);
+  screen_.Command6.Enable(pik_mode != kAssist);
+  if (pik_mode == kImmediate) screen_.Label2.SetCaption("IMMEDIATE Playback");
+  if (pik_mode == kAssist) {
+    screen_.SetTitle("On-Air Assist");
+    screen_.Label2.SetCaption("ON-AIR ASSIST");
+    ShowManual(true);
+  }
+}
+
+bool TemplateEditor::LoadTemplate() {
+  const Platform& platform = screen_.platform();
+  TemplateName = ReadSetting(platform.files, station_paths::kPikName).value_or(std::string());
+  screen_.Label2.SetCaption("Template in Use: " + TemplateName);
+  const Result<std::string> content = platform.files.Read(station_paths::TemplateFile(TemplateName));
+  if (!content.ok()) {
+    const bool missing = content.error() == RunTimeError::kFileNotFound;
+    const std::string title =
+        missing ? std::string("File Not Found") : "Error: " + std::to_string(content.status().number());
+    const std::string text =
+        missing ? "The template you specified " + TemplateName +
+                      " does not currently exist.\nIf you choose 'OK', a new file with this name "
+                      "will be created."
+                : std::string("Click 'OK' to try to continue, or cancel to abort");
+    return platform.dialogs.MessageBox(text, box_style::kOkCancel + box_style::kExclamation, title) ==
+           Answer::kOk;
+  }
+  std::vector<TemplateEvent> events = ReadableEvents(content.value());
+  const bool terminated = !events.empty() && events.back() == TemplateEvent{};
+  if (StopsInMidRecord(content.value()) || !terminated) {
+    platform.dialogs.MessageBox(
+        "This template may contain data abnormalities.  Loading will\ncontinue, but please note that you may "
+        "have "
+        "difficulty using\nit later.  Make sure there are no empty events in " +
+            TemplateName,
+        box_style::kCritical, "Possible Data Corruption");
+  }
+  if (terminated) events.pop_back();
+  if (events.size() > TemplateEntries::kMost) events.resize(TemplateEntries::kMost);
+  for (const TemplateEvent& event : events) AddTemplateEvent(event);
+  ShowRows();
+  screen_.List2.SetTopRow(entries_.EntryCount() - 1);
+  screen_.Text3.SetText("Total Entries = " + std::to_string(entries_.EntryCount()));
+  ShowTotals();
+  return true;
+}
+
+void TemplateEditor::AddTemplateEvent(const TemplateEvent& event) {
+  const EventKind kind = KindOfEvent(event.EventId);
+  if (kind == EventKind::kEmpty) {
+    entries_.Append("");
+    return;
+  }
+  if (kind == EventKind::kLocalBreak) {
+    entries_.Append(LocalBreakEntry(event.EventId));
+    return;
+  }
+  if (event.EventId.starts_with('>')) {
+    entries_.Append(event.EventId);
+    return;
+  }
+  std::string length;
+  if (HasDataFile(event)) {
+    Files& files = screen_.platform().files;
+    if (files.Exists(station_paths::DataFile(event.EventId))) {
+      std::vector<std::string> fields = ReadLeadingFields(files, event.EventId, kTemplateFields);
+      length = std::move(fields[0]);
+      first_label_ = std::move(fields[3]);
+      second_label_ = std::move(fields[4]);
+    } else {
+      TellMissingData(event.EventId);
+      first_label_ = "EMPTY!";
+      second_label_ = "EMPTY!";
+    }
+  }
+  entries_.Append(RecordingEntry(event.EventId, first_label_, second_label_, length));
+  entries_.AddSeconds(NumericValue(length));
+}
+
+/// One box for each, with no way to stop them: the operator is to see what is gone.
+void TemplateEditor::TellMissingData(const std::string& id) {
+  screen_.platform().dialogs.MessageBox(
+      "A file contained in this template may have been deleted.\nPlease review the template to make sure all "
+      "entries "
+      "are still\nvalid.  [Look in list for Entries containing 'EMPTY!']",
+      box_style::kOk + box_style::kCritical, id + ".DAT is Missing");
+}
+
+void TemplateEditor::SaveOrPlay() {
+  if (PlayMode == 1) {
+    Play();
+  } else {
+    Save();
+  }
+}
+
+void TemplateEditor::Save() {
+  if (Inserting == 1) {
+    Warn("Can't Save while Inserting", "Can't Save until you replace the >>OPEN<< event ");
+    return;
+  }
+  const Platform& platform = screen_.platform();
+  if (QuitAfterSave != 1) {
+    const Answer answer = platform.dialogs.MessageBox("Are you Sure you Want to\nSave " + TemplateName,
+                                                      box_style::kOkCancel, "Save Selected Material?");
+    // Cancel moves the focus and does not stop the save: kept, since stations rely on nothing being lost.
+    if (answer == Answer::kCancel) screen_.List2.SetFocus();
+  }
+  const Status written = platform.files.Write(station_paths::TemplateFile(TemplateName),
+                                              FormatTemplate(entries_.Events()), Durability::kFlushed);
+  if (!written.ok()) {
+    QuitAfterSave = 0;
+    TellFileFault(platform.dialogs, written, "The template was not saved; it is still on this screen.");
+    return;
+  }
+  Changed = 0;
+  if (QuitAfterSave == 1) platform.screens.Unload(screen_);
+}
+
+void TemplateEditor::Play() {
+  if (Inserting == 1) {
+    Warn("Can't Play while Inserting", "Can't Play until you replace the >>OPEN<< event ");
+    return;
+  }
+  const Platform& platform = screen_.platform();
+  const Status written =
+      platform.files.Write(station_paths::kPickList, FormatPickList(entries_.Ids()), Durability::kFlushed);
+  if (!written.ok()) {
+    TellFileFault(platform.dialogs, written, "The list cannot be played.");
+    return;
+  }
+  platform.screens.Open("PickListForm1");
+  platform.screens.Unload(screen_);
+}
+
+void TemplateEditor::Quit() {
+  const Platform& platform = screen_.platform();
+  if (loaded_ && PlayMode == 0) {
+    if (Inserting == 1) {
+      Warn("Can't Quit while Inserting", "Can't Quit until you replace the >>OPEN<< event ");
+      return;
+    }
+    if (Changed == 1) {
+      const Answer answer = platform.dialogs.MessageBox(
+          "Do you want to save changes before exiting?\nChoose NO to exit without saving.",
+          box_style::kYesNoCancel + box_style::kQuestion, "Save Changes?");
+      if (answer == Answer::kCancel) return;
+      if (answer == Answer::kYes) {
+        QuitAfterSave = 1;
+        Save();
+        return;
+      }
+    }
+  }
+  platform.screens.Unload(screen_);
+}
+
+}  // namespace quixair
