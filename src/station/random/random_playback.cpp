@@ -88,13 +88,14 @@ void RandomPlayback::Load() {
     screen.Label8.SetCaption("Stop Sets: [Disabled]");
   }
   if (context_.settings.BreakType != break_type::kNone) LoadSpotRotation();
-  screen.Switches.ReadFiles();
   screen.List1.Clear();  // events come with a template
   screen.Overlap.ReadFile();
   screen.Overlap.save.Hide();
   screen.Overlap.save.Disable();
-  // Not over a run that a power cut's record has started, nor over the frame that asks for a template.
-  if (!context_.run.running && !screen.Frame2.visible()) {
+  if (context_.run.running) {
+    // A power cut's record has started it: what the load told on the way is over.
+    if (!rotation_missing_) screen.Text1.SetText(PlaybackText(context_.run.StopSetActive == 1));
+  } else if (!screen.Frame2.visible()) {
     screen.Text1.SetText("Ready to Begin Playback.  Press START to begin, or QUIT to Exit");
     screen.Start.SetFocus();
   }
@@ -108,6 +109,7 @@ void RandomPlayback::PrepareScreen() {
   screen.Channels.MMControl2.Command("Close");
   screen.Run.HideBeforeRun();
   screen.Timer2.SetEnabled(true);
+  screen.Switches.ReadFiles();  // before a run that the load itself may start: its first item is proof too
   screen.List6.AddFault("-- error log --");
   SkipAndGoOn(WriteTextSetting(context_.platform.files, station_paths::kResetRandom, "0"));
 }

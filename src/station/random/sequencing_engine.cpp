@@ -229,9 +229,9 @@ void SequencingEngine::Verify(const WorkingItem& item, const Started& started) {
   if (written.error() == RunTimeError::kDiskFull) {
     context_.screen.Text3.SetText(kDriveFullWarning);
     context_.screen.Text3.Show();
-  } else if (written.ok() && context_.screen.Text3.text() == kDriveFullWarning) {
-    context_.screen.Text3.SetText("");  // there is room again
-    context_.screen.Text3.Hide();
+  } else if (written.ok() && context_.screen.Text3.visible()) {
+    if (context_.screen.Text3.text() == kDriveFullWarning) context_.screen.Text3.SetText("");
+    context_.screen.Text3.Hide();  // there is room again
   }
 }
 

@@ -300,6 +300,7 @@ TEST_F(StopSets, ChoiceDeclined_PlaysRandomMaterialOnly) {
 }
 
 TEST_F(StopSets, PowerCutInASet_ComesBackWithTheSetForgotten) {
+  PutRotation({"S4"});
   PutTemplate("SUN.TPD", {"08:31 PM", "S1", "S2", "08:50 PM", "S3"});
   PutFile("QXAIR/RESETON.DTA", "\"1\"\r\n");
   StartRandomWith("SUN.TPD");
@@ -312,6 +313,10 @@ TEST_F(StopSets, PowerCutInASet_ComesBackWithTheSetForgotten) {
   EXPECT_EQ(Find<MediaControl>(kForm, "MMControl1").Mode(), ChannelMode::kPlaying);
   EXPECT_FALSE(Find<Frame>(kForm, "Frame2").visible());
   EXPECT_EQ(StopSetRow(1), "08:31 PM");
+  EXPECT_EQ(Shown(kForm, "Text1"), std::string(48, ' ') + "Digital Audio Playback in Progress");
+  EXPECT_NE(FileText("QXTEMPLT/Sun.LOG").find("08:32:05 PM\",\"" + AiredIds().front() + "\""),
+            std::string::npos)
+      << "the first item after the cut is proved too";
   Advance(30min);
   EXPECT_EQ(AiredSpots(), Spots{"S3"});
 }
