@@ -25,8 +25,8 @@ inline constexpr std::string_view kRandomTemplate = "C:\\QXAIR\\RANDSAT.DTA";
 inline constexpr std::string_view kSatCorrection =
     "C:\\QXAIR\\CORRCTON.DTA";  // for the sibling programs: the number 0
 inline constexpr std::string_view kRandomVerify = "C:\\QXAIR\\RNDVERLG.DTA";    // 0 on, 1 off
-inline constexpr std::string_view kPickVerify = "C:\\QXAIR\\PIKVERLG.DTA";     // 0 on, 1 off
-inline constexpr std::string_view kPickRepeat = "C:\\QXAIR\\PICKREPEAT.DTA";   // 1 on, 0 off
+inline constexpr std::string_view kPickVerify = "C:\\QXAIR\\PIKVERLG.DTA";      // 0 on, 1 off
+inline constexpr std::string_view kPickRepeat = "C:\\QXAIR\\PICKREPEAT.DTA";    // 1 on, 0 off
 inline constexpr std::string_view kPauseAfterNext = "C:\\QXAIR\\RNDPNEXT.DTA";  // 1 on, 0 off
 inline constexpr std::string_view kSpotDateCheck = "C:\\QXAIR\\SPOTDRST.DTA";   // "1" on, "0" off
 inline constexpr std::string_view kOverlap = "C:\\QXAIR\\overlap.dta";
