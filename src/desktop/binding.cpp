@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
@@ -163,6 +164,27 @@ class ListBinding : public Binding {
   RowList& widget_;
 };
 
+class DriveBinding : public Binding {
+ public:
+  DriveBinding(DriveListBox& drives, QComboBox& widget)
+      : Binding(drives, widget), drives_(drives), widget_(widget) {
+    connect(&widget, &QComboBox::activated, this,
+            [this](int row) { Act([this, row] { drives_.PersonSelects({row}); }); });
+  }
+
+ protected:
+  void ShowRows() override {
+    widget_.clear();
+    for (const std::string& row : drives_.rows()) widget_.addItem(ToQt(row));
+    ShowSelection();
+  }
+  void ShowSelection() override { widget_.setCurrentIndex(drives_.selected_index()); }
+
+ private:
+  DriveListBox& drives_;
+  QComboBox& widget_;
+};
+
 class MediaBinding : public Binding {
  public:
   MediaBinding(MediaControl& channel, TransportBar& widget)
@@ -255,7 +277,10 @@ std::unique_ptr<Binding> Bind(Control& control, QWidget& widget) {
       return BindTextBox(static_cast<TextBox&>(control), widget);
     case ControlKind::kListBox:
     case ControlKind::kFileListBox:
+    case ControlKind::kDirListBox:
       return BindAs<ListBinding, ListBox, RowList>(control, widget);
+    case ControlKind::kDriveListBox:
+      return BindAs<DriveBinding, DriveListBox, QComboBox>(control, widget);
     case ControlKind::kCheckBox:
       return BindAs<CheckBinding, CheckBox, QCheckBox>(control, widget);
     case ControlKind::kOptionButton:

@@ -13,7 +13,13 @@
 #include "station/picklist/pick_list_form1.h"
 #include "station/random/random_form1.h"
 #include "station/random/random_setup.h"
+#include "station/templates/build_template.h"
 #include "station/templates/build_template1.h"
+#include "station/templates/copy_sat_temp.h"
+#include "station/templates/erase_template.h"
+#include "station/templates/play_template.h"
+#include "station/templates/remove_sat_spot.h"
+#include "station/templates/transfer_template.h"
 
 namespace quixair {
 namespace {
@@ -29,21 +35,30 @@ ScreenRegistry::Catalogue StationScreens() {
   return {
       {"Autostart", Make<Autostart>},
       {"BuildTemplate1", Make<BuildTemplate1>},
+      {"BuildTemplate", Make<BuildTemplate>},
       {"Console", Make<Console>},
+      {"CopySatTemp", Make<CopySatTemp>},
       {"CustomInformation", Make<CustomInformation>},
+      {"ErasePickCustom", Make<ErasePickCustom>},
+      {"EraseSimSatCustom", Make<EraseSimSatCustom>},
       {"ErrorLog", Make<ErrorLog>},
+      {"ExportTemplate", Make<ExportTemplate>},
       {"frmAbout", Make<About>},
       {"frmSplash", Make<Splash>},
+      {"ImportTemplate", Make<ImportTemplate>},
       {"InstallInfo", Make<InstallInfo>},
       {"InstallInfo2", Make<InstallInfo2>},
       {"MMregOCX", Make<MMregOCX>},
       {"PickListForm1", Make<PickListForm1>},
       {"PickListForm2", Make<PickListForm2>},
+      {"PickPlayTemplate", Make<PickPlayTemplate>},
       {"NotBuilt", Make<NotBuilt>},
       {"QXHelp", Make<QXHelp>},
       {"RandomForm1", Make<RandomForm1>},
       {"RandomForm2", Make<RandomForm2>},
       {"RandomSetup", Make<RandomSetup>},
+      {"RemoveSatSpot", Make<RemoveSatSpot>},
+      {"SatPlayTemplate", Make<SatPlayTemplate>},
   };
 }
 

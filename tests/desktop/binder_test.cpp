@@ -147,6 +147,33 @@ TEST_F(BinderTest, SelectionOutlivesChangedRows) {
   EXPECT_EQ(form_.list->selectionModel()->selectedIndexes().front().row(), 1);
 }
 
+TEST_F(BinderTest, DriveChosen_ReachesItsControlAndCanBeTakenBack) {
+  int clicks = 0;
+  screen_->Drive1.Refresh();
+  screen_->Drive1.SelectDrive('C');
+  Bind();
+  EXPECT_EQ(form_.drives->currentText(), QStringLiteral("C:"));
+  screen_->Drive1.on_click = [&] { ++clicks; };
+  QTest::keyClick(form_.drives, Qt::Key_Down);
+  EXPECT_EQ(screen_->Drive1.drive(), 'D');
+  EXPECT_EQ(clicks, 1);
+  screen_->Drive1.on_click = [&] { screen_->Drive1.SelectDrive('D'); };
+  QTest::keyClick(form_.drives, Qt::Key_Up);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(form_.drives->currentText(), QStringLiteral("D:")) << "the station took it back";
+}
+
+TEST_F(BinderTest, EnterOnAFolder_GoesIn) {
+  ASSERT_TRUE(screen_->Dir1.SetPath("C:\\").ok());
+  Bind();
+  form_.folders->setFocus();
+  QTest::keyClick(form_.folders, Qt::Key_Down);
+  QTest::keyClick(form_.folders, Qt::Key_Return);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(screen_->Dir1.path(), "C:\\QXAIR");
+  EXPECT_EQ(form_.folders->model()->index(0, 0).data().toString(), QStringLiteral(".."));
+}
+
 TEST_F(BinderTest, TickTakenBackByTheStation_ShowsUnticked) {
   screen_->Check1.on_click = [this] { screen_->Check1.Tick(false); };
   Bind();

@@ -3,6 +3,7 @@
 // A screen with one control of each kind, and its form, for tests of the binder.
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -27,6 +28,8 @@ class SampleScreen : public Screen {
   TextBox Text2{*this, "Text2"};
   TextBox Status{*this, "Status", TextBox::Use::kShow};
   ListBox List1{*this, "List1"};
+  DriveListBox Drive1{*this, "Drive1"};
+  DirListBox Dir1{*this, "Dir1"};
   CheckBox Check1{*this, "Check1", "Check"};
   Frame Frame1{*this, "Frame1", "Options"};
   OptionButton Option1{Frame1, "Option(0)", "First"};
@@ -44,6 +47,8 @@ struct SampleForm {
   QPlainTextEdit* page;
   QLineEdit* status;
   desktop::RowList* list;
+  QComboBox* drives;
+  desktop::RowList* folders;
   QCheckBox* check;
   QGroupBox* frame;
   QRadioButton* first;
@@ -67,6 +72,8 @@ inline SampleForm::SampleForm() {
   page = AddWidget<QPlainTextEdit>(root, "Text2");
   status = AddWidget<QLineEdit>(root, "Status");
   list = AddWidget<desktop::RowList>(root, "List1");
+  drives = AddWidget<QComboBox>(root, "Drive1");
+  folders = AddWidget<desktop::RowList>(root, "Dir1");
   check = AddWidget<QCheckBox>(root, "Check1");
   frame = AddWidget<QGroupBox>(root, "Frame1");
   new QVBoxLayout(frame);

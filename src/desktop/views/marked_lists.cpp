@@ -39,7 +39,9 @@ void DayTemplates::Follow(Screen& screen) {
 }
 
 bool DayTemplates::IsOfToday(std::string_view row) const {
-  if (clock_ == nullptr || KindOfTemplate(row) != TemplateKind::kSatDaily) return false;
+  const TemplateKind kind = KindOfTemplate(row);
+  if (clock_ == nullptr || (kind != TemplateKind::kSatDaily && kind != TemplateKind::kPickDaily))
+    return false;
   return UpperCased(row.substr(0, 3)) == UpperCased(DayName(clock_->Now()));
 }
 

@@ -34,6 +34,10 @@ inline constexpr std::string_view kPikMode = "C:\\QXAIR\\PIKMODE.DTA";
 inline constexpr std::string_view kPikName = "C:\\QXAIR\\PIKNAME.DTA";
 inline constexpr std::string_view kStorePik = "C:\\QXAIR\\STOREPIK.DTA";
 inline constexpr std::string_view kPickList = "C:\\QXAIR\\PICKLIST.DTA";
+inline constexpr std::string_view kStoreSat =
+    "C:\\QXAIR\\STORESAT.DTA";  // the satellite template, for the sibling programs
+inline constexpr std::string_view kSatVerify =
+    "C:\\QXAIR\\SATVER.DTA";  // for the sibling programs: the number 1
 inline constexpr std::string_view kEditSat = "C:\\QXAIR\\EDITSAT.DTA";
 inline constexpr std::string_view kStartTime = "C:\\QXAIR\\START.TMP";
 inline constexpr std::string_view kImportRequest = "C:\\QXAIR\\IMPORT.DAT";

@@ -9,6 +9,20 @@
 #include "station/platform/text.h"
 
 namespace quixair {
+namespace {
+
+constexpr std::string_view kFolderAbove = "..";
+constexpr std::size_t kRootLength = 3;  // of a drive, a colon, a backslash
+
+bool IsRoot(std::string_view path) {
+  return path.size() <= kRootLength;
+}
+
+std::string FolderAbove(const std::string& path) {
+  return path.substr(0, std::max(path.rfind('\\'), kRootLength));
+}
+
+}  // namespace
 
 std::string_view NameOf(ControlKind kind) {
   switch (kind) {
@@ -28,6 +42,10 @@ std::string_view NameOf(ControlKind kind) {
       return "Frame";
     case ControlKind::kFileListBox:
       return "FileListBox";
+    case ControlKind::kDirListBox:
+      return "DirListBox";
+    case ControlKind::kDriveListBox:
+      return "DriveListBox";
     case ControlKind::kTimer:
       return "Timer";
     case ControlKind::kMedia:
@@ -236,6 +254,59 @@ void FileListBox::Refresh() {
   if (path_.empty()) return;
   for (std::string& name : screen().platform().files.List(path_, pattern_).value_or({}))
     AddRow(std::move(name));
+}
+
+DirListBox::DirListBox(ControlOwner& owner, std::string name)
+    : ListBox(owner, std::move(name), ControlKind::kDirListBox, Order::kAsAdded) {
+  on_double_click = on_enter = [this] { GoIn(); };
+}
+
+Status DirListBox::SetPath(std::string path) {
+  Result<std::vector<std::string>> folders = screen().platform().files.ListFolders(path);
+  if (!folders.ok()) return folders.status();
+  path_ = std::move(path);
+  ShowFolders(std::move(folders).value());
+  return {};
+}
+
+void DirListBox::Refresh() {
+  ShowFolders(screen().platform().files.ListFolders(path_).value_or({}));
+}
+
+std::string DirListBox::FileIn(std::string_view name) const {
+  return IsRoot(path_) ? path_ + std::string(name) : path_ + '\\' + std::string(name);
+}
+
+void DirListBox::GoIn() {
+  if (selected_index() < 0) return;
+  const std::string target = selected_text() == kFolderAbove ? FolderAbove(path_) : FileIn(selected_text());
+  if (!SetPath(target).ok()) {
+    Refresh();  // it has gone since it was listed
+    return;
+  }
+  if (on_change) on_change();
+}
+
+void DirListBox::ShowFolders(std::vector<std::string> names) {
+  Clear();
+  if (!IsRoot(path_)) AddRow(std::string(kFolderAbove));
+  std::sort(names.begin(), names.end(),
+            [](const std::string& a, const std::string& b) { return LessIgnoringCase(a, b); });
+  for (std::string& name : names) AddRow(std::move(name));
+}
+
+void DriveListBox::Refresh() {
+  const char selected = drive();
+  Clear();
+  for (const char letter : screen().platform().files.DriveLetters()) AddRow({letter, ':'});
+  SelectDrive(selected);
+}
+
+void DriveListBox::SelectDrive(char letter) {
+  const auto found = std::find_if(rows().begin(), rows().end(), [letter](const std::string& row) {
+    return row.front() == UpperCased(letter);
+  });
+  Select(found == rows().end() ? -1 : static_cast<int>(found - rows().begin()));
 }
 
 void CheckBox::Tick(bool ticked) {

@@ -24,6 +24,7 @@
 #include <vector>
 
 #include "station/platform/media.h"
+#include "station/platform/run_time_error.h"
 #include "station/platform/timers.h"
 
 namespace quixair {
@@ -41,6 +42,8 @@ enum class ControlKind {
   kButton,
   kFrame,
   kFileListBox,
+  kDirListBox,
+  kDriveListBox,
   kTimer,
   kMedia,
   kMenu
@@ -276,6 +279,41 @@ class FileListBox : public ListBox {
  private:
   std::string path_;
   std::string pattern_ = "*.*";
+};
+
+/// The folders below a folder, and ".." for the one above it; a double click or Enter goes into one.
+class DirListBox : public ListBox {
+ public:
+  DirListBox(ControlOwner& owner, std::string name);
+  /// "C:\" or "C:\QXTEMPLT".
+  const std::string& path() const { return path_; }
+  char drive() const { return path_.empty() ? '\0' : path_.front(); }
+  /// 71 when the drive is not there, 76 when the folder is not: then the list stays where it was.
+  Status SetPath(std::string path);
+  /// Lists the folder anew; one that cannot be read shows the way up only.
+  void Refresh();
+  /// The full path of a file of this folder.
+  std::string FileIn(std::string_view name) const;
+
+  /// A person went into another folder.
+  std::function<void()> on_change;
+
+ private:
+  void GoIn();
+  void ShowFolders(std::vector<std::string> names);
+
+  std::string path_;
+};
+
+/// The drives of the station as "C:", whether their directories are there or not.
+class DriveListBox : public ListBox {
+ public:
+  DriveListBox(ControlOwner& owner, std::string name)
+      : ListBox(owner, std::move(name), ControlKind::kDriveListBox, Order::kAsAdded) {}
+  void Refresh();
+  /// 0 when none is selected.
+  char drive() const { return selected_index() < 0 ? '\0' : selected_text().front(); }
+  void SelectDrive(char letter);
 };
 
 class CheckBox : public CaptionedControl {

@@ -12,6 +12,8 @@
 namespace quixair {
 namespace {
 
+using FileType = std::filesystem::file_type;
+
 constexpr std::chrono::milliseconds kFolderTimeGrain{50};
 
 struct FolderCloser {
@@ -27,6 +29,20 @@ bool IsFolder(const std::string& host_path) {
 bool IsFile(const std::string& host_path) {
   struct stat about {};
   return ::stat(host_path.c_str(), &about) == 0 && S_ISREG(about.st_mode);
+}
+
+FileType TypeOf(const std::string& folder, const dirent& entry) {
+  if (entry.d_type == DT_REG) return FileType::regular;
+  if (entry.d_type == DT_DIR) return FileType::directory;
+  const std::string path = folder + '/' + entry.d_name;  // a link, or a file system that does not tell
+  if (IsFile(path)) return FileType::regular;
+  return IsFolder(path) ? FileType::directory : FileType::unknown;
+}
+
+bool IsSameFile(const std::optional<std::filesystem::path>& a,
+                const std::optional<std::filesystem::path>& b) {
+  std::error_code ignored;
+  return a && b && std::filesystem::equivalent(*a, *b, ignored);
 }
 
 }  // namespace
@@ -81,6 +97,7 @@ Status DiskFiles::Delete(std::string_view path) {
 Status DiskFiles::Copy(std::string_view from, std::string_view to) {
   Result<std::string> content = Read(from);
   if (!content.ok()) return content.error();
+  if (IsSameFile(HostPath(from), HostPath(to))) return RunTimeError::kPermissionDenied;
   return Write(to, content.value(), Durability::kFlushed);
 }
 
@@ -102,18 +119,40 @@ bool DiskFiles::Exists(std::string_view path) {
 }
 
 Result<std::vector<std::string>> DiskFiles::List(std::string_view folder, std::string_view pattern) {
+  const auto listing = Listing(folder);
+  if (!listing.ok()) return listing.error();
+  std::vector<std::string> names;
+  for (const Entry& entry : listing.value()->entries) {
+    if (entry.type != FileType::regular) continue;
+    std::string name = FromUtf8(entry.name);
+    if (MatchesPattern(name, pattern)) names.push_back(std::move(name));
+  }
+  return names;
+}
+
+Result<std::vector<std::string>> DiskFiles::ListFolders(std::string_view folder) {
+  const auto listing = Listing(folder);
+  if (!listing.ok()) return listing.error();
+  std::vector<std::string> names;
+  for (const Entry& entry : listing.value()->entries) {
+    if (entry.type == FileType::directory && entry.name.front() != '.') names.push_back(FromUtf8(entry.name));
+  }
+  return names;
+}
+
+std::vector<char> DiskFiles::DriveLetters() {
+  std::vector<char> letters;
+  for (const auto& [letter, directory] : drives_.table()) letters.push_back(letter);
+  return letters;
+}
+
+Result<const DiskFiles::FolderIndex*> DiskFiles::Listing(std::string_view folder) {
   auto host_folder = HostFolder(folder);
   if (host_folder.ok() && ForgetMissingFolder({host_folder.value(), {}})) host_folder = HostFolder(folder);
   if (!host_folder.ok()) return host_folder.error();
   const FolderIndex* index = OrderedIndex(host_folder.value());
   if (index == nullptr) return host_file::LastError();
-  std::vector<std::string> names;
-  for (const Entry& entry : index->entries) {
-    if (!entry.is_file) continue;
-    std::string name = FromUtf8(entry.name);
-    if (MatchesPattern(name, pattern)) names.push_back(std::move(name));
-  }
-  return names;
+  return index;
 }
 
 std::optional<std::filesystem::path> DiskFiles::HostPath(std::string_view path) {
@@ -211,9 +250,7 @@ const DiskFiles::FolderIndex* DiskFiles::OrderedIndex(const std::string& folder)
   if (!stream) return nullptr;
   index->entries.clear();
   while (const dirent* entry = ::readdir(stream.get())) {
-    const bool is_file =
-        entry->d_type == DT_REG || (entry->d_type != DT_DIR && IsFile(folder + '/' + entry->d_name));
-    index->entries.push_back({entry->d_name, is_file});
+    index->entries.push_back({entry->d_name, TypeOf(folder, *entry)});
   }
   // A file made within the grain of the folder's time would not show: what is that fresh is listed anew next time.
   index->ordered = std::filesystem::file_time_type::clock::now() - index->modified > kFolderTimeGrain;

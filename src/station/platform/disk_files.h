@@ -31,6 +31,8 @@ class DiskFiles : public Files {
   Status MakeFolder(std::string_view path) override;
   bool Exists(std::string_view path) override;
   Result<std::vector<std::string>> List(std::string_view folder, std::string_view pattern) override;
+  Result<std::vector<std::string>> ListFolders(std::string_view folder) override;
+  std::vector<char> DriveLetters() override;
   std::optional<std::filesystem::path> HostPath(std::string_view path) override;
 
   const Drives& drives() const { return drives_; }
@@ -38,7 +40,7 @@ class DiskFiles : public Files {
  private:
   struct Entry {
     std::string name;  // on the host
-    bool is_file = false;
+    std::filesystem::file_type type = std::filesystem::file_type::unknown;
   };
   struct FolderIndex {
     std::filesystem::file_time_type modified;
@@ -55,6 +57,8 @@ class DiskFiles : public Files {
 
   Result<Place> Locate(std::string_view path);
   Result<std::string> HostFolder(std::string_view drive_and_folders);
+  /// The listed content of a folder, or why it cannot be listed.
+  Result<const FolderIndex*> Listing(std::string_view folder);
   Result<std::string> Existing(const Place& place);
   /// Folders are taken to be where they were found first; true when this one has gone and must be looked for again.
   bool ForgetMissingFolder(const Place& place);

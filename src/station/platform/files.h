@@ -30,6 +30,7 @@ class Files {
   virtual Status Append(std::string_view path, std::string_view bytes,
                         Durability durability = Durability::kOrdinary) = 0;
   virtual Status Delete(std::string_view path) = 0;
+  /// 70 when both are the same file of the host, under whatever names.
   virtual Status Copy(std::string_view from, std::string_view to) = 0;
   /// 75 when it is there already.
   virtual Status MakeFolder(std::string_view path) = 0;
@@ -39,6 +40,11 @@ class Files {
   /// Names of the files in `folder` that match `pattern` ("M*.DAT", "*.TPT;*.TPP"; `*` and `?`, without
   /// regard to case), in the order in which the folder yields them.
   virtual Result<std::vector<std::string>> List(std::string_view folder, std::string_view pattern) = 0;
+
+  /// Names of the folders in `folder`, hidden ones left out, in no order. 71 no such drive, 76 no such folder.
+  virtual Result<std::vector<std::string>> ListFolders(std::string_view folder) = 0;
+  /// Of the drives that the station is set up with, whether their directories are there or not; in order.
+  virtual std::vector<char> DriveLetters() = 0;
 
   /// Where an existing file lies on the host, for the libraries that open files by themselves.
   virtual std::optional<std::filesystem::path> HostPath(std::string_view path) = 0;

@@ -36,6 +36,8 @@ class Screen : public ControlOwner {
 
   /// What the caller sets before Load; the default takes the title.
   virtual void Prepare(const ScreenOpening& opening);
+  /// Asked for again while it is open; the default leaves the screen as it is.
+  virtual void PrepareAgain(const ScreenOpening&) {}
   /// Runs once, when the screen is made and shown.
   virtual void Load() {}
   /// A person closed the window by its frame; the default unloads.

@@ -12,6 +12,7 @@ ScreenRegistry::~ScreenRegistry() {
 
 void ScreenRegistry::Open(std::string_view name, const ScreenOpening& opening) {
   if (Screen* screen = Find(name)) {
+    screen->PrepareAgain(opening);
     screen->Show();
     if (observer_ != nullptr) observer_->ScreenActivated(*screen);
     return;

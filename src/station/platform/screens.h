@@ -24,7 +24,8 @@ struct ScreenOpening {
 class Screens {
  public:
   virtual ~Screens() = default;
-  /// Makes, shows and loads the screen; one that is open already comes to the front as it is.
+  /// Makes, shows and loads the screen; one that is open already comes to the front as it is, unless it
+  /// makes something of the opening.
   virtual void Open(std::string_view name, const ScreenOpening& opening = {}) = 0;
   /// Takes the screen away; harmless when it is on its way out.
   virtual void Unload(Screen& screen) = 0;

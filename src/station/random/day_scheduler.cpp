@@ -36,24 +36,10 @@ bool IsOfAnotherDay(std::string_view template_name, const CivilTime& now) {
 
 }  // namespace
 
-DayScheduler::DayScheduler(RandomContext& context) : context_(context) {
-  ConnectChoice();
-}
-
-void DayScheduler::ConnectChoice() {
-  RandomForm1& screen = context_.screen;
-  const auto connect = [this, &screen](FileListBox& list, FileListBox& other) {
-    list.on_click = [&screen, &other] {
-      other.Select(-1);
-      screen.Done.Enable();
-    };
-    list.on_double_click = [this] { ChooseFrom(true); };
-    list.on_enter = [this] { ChooseFrom(false); };
-  };
-  connect(screen.File1, screen.File2);
-  connect(screen.File2, screen.File1);
-  screen.Done.on_click = [this] { ChooseFrom(false); };
-  screen.Quit.on_click = [this] { DeclineChoice(); };
+DayScheduler::DayScheduler(RandomContext& context)
+    : context_(context), choice_(context.screen.File1, context.screen.File2, context.screen.Done) {
+  choice_.on_choose = [this](const ChosenTemplate& chosen) { Choose(chosen); };
+  context.screen.Quit.on_click = [this] { DeclineChoice(); };
 }
 
 void DayScheduler::Reset() {
@@ -68,12 +54,10 @@ void DayScheduler::PrepareTemplateChoice() {
       run.RestartPending == 1
           ? "A problem occured and your system has been restarted..."
           : "Select an Existing Template for Playback by Double Clicking or pressing <Enter>...");
-  screen.Done.Disable();
   screen.Start.Disable();
-  screen.File1.SetPath(std::string(station_paths::kTemplateFolder));
-  screen.File1.SetPattern("*.TPL");
-  screen.File2.SetPath(std::string(station_paths::kTemplateFolder));
-  screen.File2.SetPattern("*.TPD");
+  ShowTemplates(screen.File1, "*.TPL");
+  ShowTemplates(screen.File2, "*.TPD");
+  choice_.Reset();
   if (run.TemplateName.empty()) {
     screen.Frame2.Show();
     screen.File2.SetFocus();
@@ -83,14 +67,11 @@ void DayScheduler::PrepareTemplateChoice() {
       ReadSetting(context_.platform.files, station_paths::kRandomTemplate).value_or(std::string());
 }
 
-void DayScheduler::ChooseFrom(bool double_click) {
-  const RandomForm1& screen = context_.screen;
-  const FileListBox& list = screen.File1.selected_index() >= 0 ? screen.File1 : screen.File2;
-  if (list.selected_index() < 0) return;
-  if (double_click) {
+void DayScheduler::Choose(const ChosenTemplate& chosen) {
+  if (chosen.way == ChosenTemplate::Way::kDoubleClick) {
     SkipAndGoOn(WriteNumberSetting(context_.platform.files, station_paths::kSatCorrection, 0));
   }
-  TakeTemplate(list.selected_text());
+  TakeTemplate(chosen.name);
 }
 
 void DayScheduler::TakeTemplate(const std::string& name) {

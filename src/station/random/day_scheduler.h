@@ -16,6 +16,7 @@
 
 #include "station/onair/on_air_status.h"
 #include "station/platform/clock.h"
+#include "station/templates/template_choice.h"
 
 namespace quixair {
 
@@ -43,8 +44,7 @@ class DayScheduler {
   StopSetStatus status() const;
 
  private:
-  void ConnectChoice();
-  void ChooseFrom(bool double_click);
+  void Choose(const ChosenTemplate& chosen);
   void DeclineChoice();
   void LoadSatTemp();
   void TellMissing();
@@ -55,6 +55,7 @@ class DayScheduler {
   StopSetState state(const CivilTime& now) const;
 
   RandomContext& context_;
+  TemplateChoice choice_;
   bool choice_prepared_ = false;
   bool template_load_failed_ = false;
   std::int64_t last_day_ = 0;  // of the latest tick, as a number; 0 before the first

@@ -90,11 +90,31 @@ std::vector<TemplateEvent> EventsToFirstEmpty(std::string_view content, std::siz
   return events;
 }
 
-std::string FormatTemplate(const std::vector<TemplateEvent>& events) {
+Result<std::vector<TemplateEvent>> WholeTemplate(std::string_view content,
+                                                 const std::function<bool(const TemplateEvent&)>& keep) {
+  std::vector<TemplateEvent> wanted;
+  for (TemplateEvent& event : ReadableEvents(content)) {
+    const bool last = event.EventId.empty();
+    if (!last && !keep(event)) continue;
+    if (wanted.size() == kMaxTemplateLines) return RunTimeError::kSubscriptOutOfRange;
+    wanted.push_back(std::move(event));
+    if (last) return wanted;
+  }
+  return RunTimeError::kInputPastEnd;
+}
+
+std::string TextOf(int number, const TemplateEvent& event) {
+  return std::to_string(number) + ". " + event.EventId + " " + event.EventTitle;
+}
+
+std::string FormatRecords(const std::vector<TemplateEvent>& records) {
   WriteForm form;
-  for (const TemplateEvent& event : events) form.Texts({event.EventId, event.EventTitle});
-  form.Texts({"", ""});
+  for (const TemplateEvent& record : records) form.Texts({record.EventId, record.EventTitle});
   return form.bytes();
+}
+
+std::string FormatTemplate(const std::vector<TemplateEvent>& events) {
+  return FormatRecords(events) + FormatRecords({TemplateEvent{}});
 }
 
 std::string FormatPickList(const std::vector<std::string>& event_ids) {

@@ -8,6 +8,7 @@
 //   ">PAUSE<",""
 //   "",""
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,6 +41,17 @@ bool StopsInMidRecord(std::string_view content);
 std::vector<TemplateEvent> ReadableEvents(std::string_view content);
 /// Events up to the first empty id, at most `limit` lines: how the rotation file is read.
 std::vector<TemplateEvent> EventsToFirstEmpty(std::string_view content, std::size_t limit);
+
+/// Events up to the first empty id, that record included as it stands, for those who write a template again:
+/// 62 when the file ends before it. `keep` sees each event and says whether it is wanted; with more than
+/// kMaxTemplateLines wanted records it is 9.
+Result<std::vector<TemplateEvent>> WholeTemplate(std::string_view content,
+                                                 const std::function<bool(const TemplateEvent&)>& keep);
+/// "12. M0001 Title", for a line that shows how a file is gone through.
+std::string TextOf(int number, const TemplateEvent& event);
+
+/// The records as they are.
+std::string FormatRecords(const std::vector<TemplateEvent>& records);
 
 /// The events and the terminating record.
 std::string FormatTemplate(const std::vector<TemplateEvent>& events);

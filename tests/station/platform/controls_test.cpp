@@ -164,6 +164,63 @@ TEST_F(Controls, FileList_ShowsMatchingNamesSortedAndNothingOfAMissingFolder) {
   EXPECT_EQ(files.row_count(), 0);
 }
 
+TEST_F(Controls, FolderList_GoesDownAndUpByDoubleClickAndEnter) {
+  std::filesystem::create_directories(Host("backup/Old"));
+  std::filesystem::create_directories(Host("BACKUP2"));
+  std::filesystem::create_directories(Host(".hidden"));
+  DirListBox folders(screen(), "Folders");
+  std::string went;
+  folders.on_change = [&] { went += folders.path() + ';'; };
+  ASSERT_TRUE(folders.SetPath("C:\\").ok());
+  EXPECT_EQ(folders.rows(), (std::vector<std::string>{"backup", "BACKUP2", "QXAIR", "QXDATA", "QXTEMPLT",
+                                                      "QXTIME", "QXWAVE"}));
+  EXPECT_EQ(folders.FileIn("A.TPP"), "C:\\A.TPP");
+  folders.DoubleClick();
+  EXPECT_EQ(went, "") << "nothing was selected, and the station's own setting is no change";
+  folders.PersonSelects({0});
+  folders.DoubleClick();
+  EXPECT_EQ(folders.rows(), (std::vector<std::string>{"..", "Old"}));
+  EXPECT_EQ(folders.FileIn("A.TPP"), "C:\\backup\\A.TPP");
+  folders.PersonSelects({1});
+  folders.PressEnter();
+  for (int up = 0; up < 2; ++up) {
+    folders.PersonSelects({0});
+    folders.PressEnter();
+  }
+  EXPECT_EQ(went, "C:\\backup;C:\\backup\\Old;C:\\backup;C:\\;");
+}
+
+TEST_F(Controls, FolderOrDriveThatHasGone_LeavesTheListWhereItWas) {
+  std::filesystem::create_directories(Host("backup"));
+  DirListBox folders(screen(), "Folders");
+  int changes = 0;
+  folders.on_change = [&] { ++changes; };
+  ASSERT_TRUE(folders.SetPath("C:\\").ok());
+  EXPECT_EQ(folders.SetPath("D:\\").number(), 71) << "its directory is not there";
+  EXPECT_EQ(folders.SetPath("E:\\").number(), 71) << "it is not in the table";
+  EXPECT_EQ(folders.SetPath("C:\\NOWHERE").number(), 76);
+  EXPECT_EQ(folders.path(), "C:\\");
+  std::filesystem::remove(Host("backup"));
+  folders.PersonSelects({0});
+  folders.DoubleClick();
+  EXPECT_EQ(folders.path(), "C:\\");
+  EXPECT_EQ(folders.row(0), "QXAIR") << "it is not offered a second time";
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(Controls, DriveList_OffersTheDrivesOfTheTable) {
+  DriveListBox drives(screen(), "Drives");
+  drives.Refresh();
+  EXPECT_EQ(drives.rows(), (std::vector<std::string>{"C:", "D:"}));
+  EXPECT_EQ(drives.drive(), '\0');
+  drives.SelectDrive('d');
+  EXPECT_EQ(drives.drive(), 'D');
+  drives.Refresh();
+  EXPECT_EQ(drives.drive(), 'D');
+  drives.SelectDrive('X');
+  EXPECT_EQ(drives.selected_index(), -1);
+}
+
 TEST_F(Controls, Timer_RunsWhileEnabledWithAnInterval) {
   int ticks = 0;
   Timer& timer = screen().Ticker;

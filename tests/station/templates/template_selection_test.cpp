@@ -1,0 +1,218 @@
+#include <gtest/gtest.h>
+
+#include "support/station_fixture.h"
+
+namespace quixair::testing {
+namespace {
+
+// Chooses a row of a list as a person does.
+class TemplateSelection : public StationFixture {
+ protected:
+  TemplateSelection() {
+    for (const char* name : {"GALA.TPP", "MON.TPT", "GALA.TPL", "NIGHT.TPL", "MON.TPD"})
+      PutTemplate(name, {});
+  }
+  ListBox& Select(std::string_view screen, std::string_view list, std::string_view row) {
+    auto& box = Find<ListBox>(screen, list);
+    const auto found = std::find(box.rows().begin(), box.rows().end(), row);
+    if (found == box.rows().end()) throw std::runtime_error("no such row: " + std::string(row));
+    box.PersonSelects({static_cast<int>(found - box.rows().begin())});
+    return box;
+  }
+  bool EditorOpen() { return IsOpen("BuildTemplate1") || IsOpen("NotBuilt"); }
+  bool DoneEnabled(std::string_view screen) { return Find<Button>(screen, "Done").enabled(); }
+};
+
+constexpr const char* kBuild = "BuildTemplate";
+constexpr const char* kBuildHint =
+    "Select an existing Template to edit, or click 'New Template' to create a new Template.";
+constexpr const char* kPick = "PickPlayTemplate";
+constexpr const char* kSat = "SatPlayTemplate";
+constexpr const char* kPlayHint =
+    "Select an Existing Template for Playback by Double Clicking or pressing <Enter>...";
+
+TEST_F(TemplateSelection, Build_OffersCustomFilesAndAllSevenDaysOfItsFamily) {
+  StartConsole();
+  Menu("EditTemplate");
+  EXPECT_EQ(station_.FindScreen(kBuild)->title(), "Select Template (Pick-List)");
+  EXPECT_EQ(Rows(kBuild, "File1"), std::vector<std::string>{"GALA.TPP"});
+  EXPECT_EQ(Rows(kBuild, "List1"), (std::vector<std::string>{"MON.TPT", "TUE.TPT", "WED.TPT", "THU.TPT",
+                                                             "FRI.TPT", "SAT.TPT", "SUN.TPT"}));
+  EXPECT_EQ(Shown(kBuild, "Text1"), kBuildHint);
+  Menu("EditSatTemplate");  // while the other family's is open
+  EXPECT_EQ(station_.FindScreen(kBuild)->title(), "Select Template (Satellite/Random)");
+  EXPECT_EQ(Rows(kBuild, "File1"), (std::vector<std::string>{"GALA.TPL", "NIGHT.TPL"}));
+  EXPECT_EQ(Rows(kBuild, "List1").front(), "MON.TPD");
+  EXPECT_EQ(Rows(kBuild, "List1").size(), 7U);
+}
+
+TEST_F(TemplateSelection, Build_ListsClearEachOtherAndEnableDone) {
+  StartConsole();
+  Menu("EditTemplate");
+  EXPECT_FALSE(DoneEnabled(kBuild));
+  Select(kBuild, "File1", "GALA.TPP");
+  EXPECT_TRUE(DoneEnabled(kBuild));
+  Select(kBuild, "List1", "WED.TPT");
+  EXPECT_EQ(Find<ListBox>(kBuild, "File1").selected_index(), -1);
+  Select(kBuild, "File1", "GALA.TPP");
+  EXPECT_EQ(Find<ListBox>(kBuild, "List1").selected_index(), -1);
+}
+
+TEST_F(TemplateSelection, Build_DoneDoubleClickAndEnterHandTheNameToTheEditor) {
+  for (const char* way : {"done", "double", "enter"}) {
+    SCOPED_TRACE(way);
+    station_.PowerCut();
+    std::filesystem::remove(Host("QXAIR/PIKNAME.DTA"));
+    StartConsole();
+    Menu("EditTemplate");
+    ListBox& list = Select(kBuild, "List1", "WED.TPT");
+    EXPECT_FALSE(EditorOpen());
+    if (way == std::string_view("done")) Click(kBuild, "Done");
+    if (way == std::string_view("double")) list.DoubleClick();
+    if (way == std::string_view("enter")) list.PressEnter();
+    EXPECT_EQ(FileText("QXAIR/PIKNAME.DTA"), "\"WED.TPT\"\r\n");
+    EXPECT_TRUE(EditorOpen());
+    EXPECT_FALSE(station_.FindScreen(kBuild)->visible());
+  }
+  PutTemplate("NEW.TPP", {});
+  Menu("EditTemplate");
+  EXPECT_TRUE(station_.FindScreen(kBuild)->visible());
+  EXPECT_EQ(Rows(kBuild, "File1").size(), 2U) << "what was saved meanwhile is there";
+  EXPECT_FALSE(DoneEnabled(kBuild));
+}
+
+TEST_F(TemplateSelection, Build_NameThatCannotBeWritten_IsToldAndNoEditorOpens) {
+  std::filesystem::create_directories(Host("QXAIR/PIKNAME.DTA"));
+  StartConsole();
+  Menu("EditTemplate");
+  Select(kBuild, "File1", "GALA.TPP");
+  QueueAnswer("OK");
+  Click(kBuild, "Done");
+  EXPECT_FALSE(EditorOpen());
+  EXPECT_TRUE(station_.FindScreen(kBuild)->visible());
+}
+
+TEST_F(TemplateSelection, Build_NewNamesThatAreRefused_AreToldAndAskedForAgain) {
+  constexpr const char* kPeriod = "No Extensions Allowed";
+  constexpr const char* kBad = "Bad Character in Filename";
+  const std::pair<const char*, const char*> cases[] = {
+      {"A.TPP", kPeriod}, {".,", kPeriod}, {"a,.", kBad},          {"a/b", kBad}, {"a\\b", kBad},
+      {"a#", kBad},       {"%a", kBad},    {"a^", kBad},           {"a*b", kBad}, {"a;b", kBad},
+      {"a|b", kBad},      {"a,b", kBad},   {"   ", "No File Name"}};
+  StartConsole();
+  Menu("EditTemplate");
+  for (const auto& [typed, title] : cases) {
+    SCOPED_TRACE(typed);
+    const std::size_t before = boxes().size();
+    QueueAnswer(typed);
+    QueueAnswer("OK");
+    QueueAnswer("");
+    Click(kBuild, "NewTemplate");
+    ASSERT_EQ(boxes().size(), before + 3);
+    EXPECT_EQ(boxes()[before + 1].title, title);
+    EXPECT_EQ(boxes()[before + 1].style, title == std::string_view(kPeriod) ? 160 : 0);
+    EXPECT_EQ(boxes()[before + 2].title, "New Template ID");
+    EXPECT_EQ(Shown(kBuild, "Text1"), typed);
+  }
+  EXPECT_FALSE(EditorOpen());
+  EXPECT_FALSE(std::filesystem::exists(Host("QXAIR/PIKNAME.DTA")));
+}
+
+TEST_F(TemplateSelection, Build_NewNameGoesToTheEditorWithItsExtension) {
+  const struct {
+    const char *item, *typed, *name;
+  } cases[] = {{"EditTemplate", "Gala Night 2026", "Gala Night 2026.TPP"},
+               {"EditSatTemplate", " SPRING", "SPRING.TPL"}};
+  for (const auto& [item, typed, name] : cases) {
+    SCOPED_TRACE(item);
+    StartConsole();
+    Menu(item);
+    QueueAnswer(typed);
+    Click(kBuild, "NewTemplate");
+    EXPECT_EQ(boxes().back().text,
+              "Enter New ID (Do not enter file extension), then 'OK'...\n"
+              "[Filename should not exceed 8 digits if DOS playback is desired.]");
+    EXPECT_EQ(FileText("QXAIR/PIKNAME.DTA"), "\"" + std::string(name) + "\"\r\n");
+    EXPECT_EQ(Shown(kBuild, "Text1"), "Last template: " + std::string(name));
+    EXPECT_TRUE(EditorOpen());
+    EXPECT_FALSE(std::filesystem::exists(Host("QXTEMPLT") / name)) << "the editor makes it";
+  }
+}
+
+TEST_F(TemplateSelection, PickPlay_HandsOverTheNameAndOpensPlayback) {
+  AddLibrary(2, 1, 1);
+  StartConsole();
+  Menu("RunTemplate");
+  EXPECT_EQ(Rows(kPick, "File1"), std::vector<std::string>{"GALA.TPP"});
+  EXPECT_EQ(Rows(kPick, "File2"), std::vector<std::string>{"MON.TPT"});
+  EXPECT_EQ(Shown(kPick, "Text1"), kPlayHint);
+  EXPECT_FALSE(DoneEnabled(kPick));
+  Select(kPick, "File2", "MON.TPT");
+  Select(kPick, "File1", "GALA.TPP");
+  EXPECT_EQ(Find<ListBox>(kPick, "File2").selected_index(), -1);
+  EXPECT_TRUE(DoneEnabled(kPick));
+  Click(kPick, "Done");
+  EXPECT_EQ(FileText("QXAIR/STOREPIK.DTA"), "\"GALA.TPP\"\r\n");
+  EXPECT_EQ(FileText("QXAIR/PIKMODE.DTA"), "0\r\n");
+  EXPECT_EQ(Shown("PickListForm1", "Label7"), "GALA.TPP");
+  EXPECT_FALSE(IsOpen(kPick));
+}
+
+TEST_F(TemplateSelection, PickPlay_RefreshReadsTheFolderAnewAndQuitCloses) {
+  StartConsole();
+  Menu("RunTemplate");
+  Select(kPick, "File1", "GALA.TPP");
+  PutTemplate("NEW.TPP", {});
+  Click(kPick, "Refresh");
+  EXPECT_EQ(Rows(kPick, "File1"), (std::vector<std::string>{"GALA.TPP", "NEW.TPP"}));
+  EXPECT_FALSE(DoneEnabled(kPick)) << "nothing is chosen any more";
+  Find<ListBox>(kPick, "File1").PressEnter();
+  EXPECT_FALSE(std::filesystem::exists(Host("QXAIR/STOREPIK.DTA")));
+  Click(kPick, "Quit");
+  EXPECT_FALSE(IsOpen(kPick));
+}
+
+TEST_F(TemplateSelection, SatPlay_WritesForTheSiblingProgramsByTheWayOfTheChoice) {
+  const struct {
+    const char *list, *row, *way, *last_line;
+  } cases[] = {{"File1", "GALA.TPL", "done", "0\r\n"},
+               {"File2", "MON.TPD", "done", "0\r\n"},
+               {"File2", "MON.TPD", "double", "0\r\n"},
+               {"File2", "MON.TPD", "enter", "0\r\n"},
+               {"File1", "NIGHT.TPL", "double", "\r\n"}};
+  StartConsole();
+  for (const auto& [list, row, way, last_line] : cases) {
+    SCOPED_TRACE(std::string(row) + " by " + way);
+    runs_.clear();
+    for (const char* name : {"CORRCTON.DTA", "STORESAT.DTA", "SATVER.DTA"})
+      std::filesystem::remove(Host("QXAIR") / name);
+    Menu("RunSatTemplate");
+    ListBox& box = Select(kSat, list, row);
+    if (way == std::string_view("done")) Click(kSat, "Done");
+    if (way == std::string_view("double")) box.DoubleClick();
+    if (way == std::string_view("enter")) box.PressEnter();
+    EXPECT_EQ(FileText("QXAIR/CORRCTON.DTA"), "0\r\n");
+    EXPECT_EQ(FileText("QXAIR/STORESAT.DTA"), "\"" + std::string(row) + "\"\r\n\"1\"\r\n" + last_line);
+    EXPECT_EQ(FileText("QXAIR/SATVER.DTA"), "1\r\n");
+    EXPECT_EQ(runs_, std::vector<std::string>{"C:\\QXAIR\\BRKCOUNT.EXE"});
+    EXPECT_FALSE(IsOpen(kSat));
+  }
+}
+
+TEST_F(TemplateSelection, SatPlay_HandOverFails_NothingRunsAndTheNextChoiceRepeatsTheValue) {
+  std::filesystem::create_directories(Host("QXAIR/SATVER.DTA"));
+  StartConsole();
+  Menu("RunSatTemplate");
+  Select(kSat, "File1", "GALA.TPL");
+  QueueAnswer("OK");
+  Click(kSat, "Done");
+  EXPECT_EQ(runs_, std::vector<std::string>{});
+  EXPECT_EQ(Shown(kSat, "Text1"), kPlayHint);
+  std::filesystem::remove(Host("QXAIR/SATVER.DTA"));
+  Select(kSat, "File1", "NIGHT.TPL").DoubleClick();
+  EXPECT_EQ(FileText("QXAIR/STORESAT.DTA"), "\"NIGHT.TPL\"\r\n\"1\"\r\n0\r\n");
+  EXPECT_EQ(runs_.size(), 1U);
+}
+
+}  // namespace
+}  // namespace quixair::testing
