@@ -12,6 +12,7 @@
 #include "desktop/session_entry.h"
 #include "desktop/termination_signals.h"
 #include "desktop/theme.h"
+#include "sound/capture_system.h"
 #include "sound/sound_system.h"
 #include "station/platform/disk_files.h"
 #include "station/platform/drives.h"
@@ -42,8 +43,9 @@ int main(int argc, char** argv) {
   desktop::SessionEntry session_start(configuration.parent_path() / "autostart",
                                       QCoreApplication::applicationFilePath().toStdString());
   sound::SoundSystem sound;
+  sound::CaptureSystem capture(configuration / "recorder.conf");
   ScreenRegistry screens(StationScreens());
-  const Platform platform{clock,    timers,        files,  sound,   dialogs,
+  const Platform platform{clock,    timers,        files,  sound,   capture, dialogs,
                           programs, session_start, random, screens, gate};
   screens.Attach(platform);
 

@@ -266,7 +266,8 @@ void Binding::ShowHint() {
 }
 
 bool HasWidget(const Control& control) {
-  return control.kind() != ControlKind::kTimer && control.kind() != ControlKind::kMenu;
+  return control.kind() != ControlKind::kTimer && control.kind() != ControlKind::kRecorder &&
+         control.kind() != ControlKind::kMenu;
 }
 
 std::unique_ptr<Binding> Bind(Control& control, QWidget& widget) {
@@ -292,6 +293,7 @@ std::unique_ptr<Binding> Bind(Control& control, QWidget& widget) {
     case ControlKind::kMedia:
       return BindAs<MediaBinding, MediaControl, TransportBar>(control, widget);
     case ControlKind::kTimer:
+    case ControlKind::kRecorder:
     case ControlKind::kMenu:
       break;
   }

@@ -1,5 +1,8 @@
 #include "desktop/qt_dialogs.h"
 
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -53,6 +56,15 @@ Answer AnswerOf(int button, int style) {
                                                                                          : Answer::kCancel;
 }
 
+QComboBox* AddChoice(QFormLayout& form, const char* caption, const std::vector<int>& values, int chosen,
+                     const char* unit) {
+  auto* box = new QComboBox;
+  for (const int value : values) box->addItem(QString::number(value) + QLatin1String(unit), value);
+  box->setCurrentIndex(box->findData(chosen));
+  form.addRow(QLatin1String(caption), box);
+  return box;
+}
+
 }  // namespace
 
 Answer QtDialogs::MessageBox(std::string_view text, int style, std::string_view title) {
@@ -67,6 +79,24 @@ std::string QtDialogs::InputBox(std::string_view prompt, std::string_view title,
   box.setLabelText(ToQt(prompt));
   box.setTextValue(ToQt(initial));
   return Run(box) == QDialog::Accepted ? FromQt(box.textValue()) : std::string();
+}
+
+std::optional<RecordingFormat> QtDialogs::FormatBox(const RecordingFormat& initial) {
+  QDialog box(Over());
+  box.setWindowTitle(QStringLiteral("Recording Format"));
+  auto* form = new QFormLayout(&box);
+  auto* rate = AddChoice(*form, "&Rate:", RecordingRates(), initial.rate, " Hz");
+  auto* bits = AddChoice(*form, "&Sample:", RecordingBits(), initial.bits, " bits");
+  auto* channels = AddChoice(*form, "&Channels:", {1, 2}, initial.channels, {});
+  channels->setItemText(0, QStringLiteral("Mono"));
+  channels->setItemText(1, QStringLiteral("Stereo"));
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  QObject::connect(buttons, &QDialogButtonBox::accepted, &box, &QDialog::accept);
+  QObject::connect(buttons, &QDialogButtonBox::rejected, &box, &QDialog::reject);
+  form->addRow(buttons);
+  if (Run(box) != QDialog::Accepted) return std::nullopt;
+  return RecordingFormat{rate->currentData().toInt(), bits->currentData().toInt(),
+                         channels->currentData().toInt()};
 }
 
 void QtDialogs::CloseAll() {

@@ -27,6 +27,7 @@ class QtDialogs : public Dialogs {
 
   Answer MessageBox(std::string_view text, int style, std::string_view title) override;
   std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
+  std::optional<RecordingFormat> FormatBox(const RecordingFormat& initial) override;
 
   /// At the program's end.
   void CloseAll();

@@ -60,8 +60,16 @@ Answer ScriptedDialogs::MessageBox(std::string_view text, int style, std::string
 
 std::string ScriptedDialogs::InputBox(std::string_view prompt, std::string_view title,
                                       std::string_view /*initial*/) {
-  ShownBox box{
-      .input = true, .style = 0, .title = std::string(title), .text = std::string(prompt), .answer = {}};
+  return AnswerTyped(
+      {.input = true, .style = 0, .title = std::string(title), .text = std::string(prompt), .answer = {}});
+}
+
+std::optional<RecordingFormat> ScriptedDialogs::FormatBox(const RecordingFormat& initial) {
+  return ParseRecordingFormat(AnswerTyped(
+      {.input = true, .style = 0, .title = "Recording format", .text = InWords(initial), .answer = {}}));
+}
+
+std::string ScriptedDialogs::AnswerTyped(ShownBox box) {
   const bool expected = !answers_.empty();
   if (expected) {
     box.answer = answers_.front();

@@ -25,6 +25,8 @@ class ScriptedDialogs : public Dialogs {
  public:
   Answer MessageBox(std::string_view text, int style, std::string_view title) override;
   std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
+  /// Answered with "48000 16 2".
+  std::optional<RecordingFormat> FormatBox(const RecordingFormat& initial) override;
 
   /// Queues the answer of the next box: a button's name, or the text of an input box.
   void QueueAnswer(std::string answer) { answers_.push_back(std::move(answer)); }
@@ -36,6 +38,8 @@ class ScriptedDialogs : public Dialogs {
   std::function<void(const ShownBox&)> on_unexpected;
 
  private:
+  std::string AnswerTyped(ShownBox box);
+
   std::deque<std::string> answers_;
   std::vector<ShownBox> shown_;
 };

@@ -12,6 +12,7 @@ SimulatedStation::Program::Program(SimulatedStation& station)
                .timers = station.time_,
                .files = station.files_,
                .media = station.media_,
+               .capture = station.capture_,
                .dialogs = station.dialogs_,
                .programs = station.programs_,
                .session_start = station.session_start_,
@@ -41,6 +42,7 @@ SimulatedStation::SimulatedStation(Drives drives, const CivilTime& civil, Length
     : time_(civil),
       files_(std::move(drives), DiskFiles::Flushing::kNone),
       media_(time_, std::move(probe)),
+      capture_(time_),
       random_(seed ? EngineRandom(*seed) : EngineRandom()) {
   time_.interrupted = [this] { return program_ != nullptr && program_->gate.ended(); };
 }

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "simulation/scripted_dialogs.h"
+#include "simulation/simulated_capture.h"
 #include "simulation/simulated_media.h"
 #include "simulation/virtual_time.h"
 #include "station/platform/disk_files.h"
@@ -45,6 +46,7 @@ class SimulatedStation {
   VirtualTime& time() { return time_; }
   DiskFiles& files() { return files_; }
   SimulatedMedia& media() { return media_; }
+  SimulatedCapture& capture() { return capture_; }
   ScriptedDialogs& dialogs() { return dialogs_; }
   NotedPrograms& programs() { return programs_; }
   NotedSessionStart& session_start() { return session_start_; }
@@ -71,6 +73,7 @@ class SimulatedStation {
   VirtualTime time_;
   DiskFiles files_;
   SimulatedMedia media_;
+  SimulatedCapture capture_;
   ScriptedDialogs dialogs_;
   NotedPrograms programs_;
   NotedSessionStart session_start_;

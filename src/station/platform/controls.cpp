@@ -48,6 +48,8 @@ std::string_view NameOf(ControlKind kind) {
       return "DriveListBox";
     case ControlKind::kTimer:
       return "Timer";
+    case ControlKind::kRecorder:
+      return "Recorder";
     case ControlKind::kMedia:
       return "MediaControl";
     case ControlKind::kMenu:

@@ -46,6 +46,7 @@ enum class ControlKind {
   kDriveListBox,
   kTimer,
   kMedia,
+  kRecorder,
   kMenu
 };
 std::string_view NameOf(ControlKind kind);

@@ -9,6 +9,8 @@ std::string_view InWords(RunTimeError error) {
       return "The file was not found.";
     case RunTimeError::kDiskFull:
       return "The disk is full.";
+    case RunTimeError::kDeviceUnavailable:
+      return "The sound input is not there.";
     case RunTimeError::kPermissionDenied:
       return "The system does not allow it.";
     case RunTimeError::kDiskNotReady:

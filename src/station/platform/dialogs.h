@@ -3,9 +3,11 @@
 // Boxes that the operator answers. The calls return with the answer; timers go on while a box is open, so
 // that playback never waits for one.
 
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "station/platform/recording_format.h"
 #include "station/platform/run_time_error.h"
 
 namespace quixair {
@@ -33,6 +35,8 @@ class Dialogs {
   virtual Answer MessageBox(std::string_view text, int style, std::string_view title) = 0;
   /// The text that was typed; empty when the operator cancelled.
   virtual std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) = 0;
+  /// The format that the operator chose; none when the choice was cancelled.
+  virtual std::optional<RecordingFormat> FormatBox(const RecordingFormat& initial) = 0;
 };
 
 /// A plain box that tells what did not happen, and the run-time error behind it in words and by its number.

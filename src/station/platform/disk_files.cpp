@@ -168,6 +168,13 @@ std::optional<std::filesystem::path> DiskFiles::HostPath(std::string_view path) 
   return std::filesystem::path(std::move(real).value());
 }
 
+Result<std::filesystem::path> DiskFiles::HostPathToMake(std::string_view path) {
+  if (auto there = HostPath(path)) return *std::move(there);
+  const auto place = Locate(path);
+  if (!place.ok()) return place.error();
+  return std::filesystem::path(place.value().exact());
+}
+
 Result<DiskFiles::Place> DiskFiles::Locate(std::string_view path) {
   const std::size_t slash = path.find_last_of("\\/");
   if (path.size() < 3 || path[1] != ':' || slash == std::string_view::npos) return RunTimeError::kBadFileName;

@@ -34,6 +34,7 @@ class DiskFiles : public Files {
   Result<std::vector<std::string>> ListFolders(std::string_view folder) override;
   std::vector<char> DriveLetters() override;
   std::optional<std::filesystem::path> HostPath(std::string_view path) override;
+  Result<std::filesystem::path> HostPathToMake(std::string_view path) override;
 
   const Drives& drives() const { return drives_; }
 

@@ -48,6 +48,9 @@ class Files {
 
   /// Where an existing file lies on the host, for the libraries that open files by themselves.
   virtual std::optional<std::filesystem::path> HostPath(std::string_view path) = 0;
+  /// The same for a file that is about to be made: where it lies or will lie. 71 no such drive, 76 no such
+  /// folder.
+  virtual Result<std::filesystem::path> HostPathToMake(std::string_view path) = 0;
 };
 
 }  // namespace quixair

@@ -5,6 +5,7 @@
 
 namespace quixair {
 
+class Capture;
 class Clock;
 class Dialogs;
 class EventGate;
@@ -21,6 +22,7 @@ struct Platform {
   TimerService& timers;
   Files& files;
   Media& media;
+  Capture& capture;
   Dialogs& dialogs;
   Programs& programs;
   SessionStart& session_start;

@@ -24,6 +24,7 @@ enum class RunTimeError {
   kDeviceInputOutput = 57,
   kDiskFull = 61,
   kInputPastEnd = 62,
+  kDeviceUnavailable = 68,
   kPermissionDenied = 70,
   kDiskNotReady = 71,
   kPathFileAccess = 75,

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "station/platform/event_gate.h"
+#include "station/platform/recorder_control.h"
 
 namespace quixair {
 
@@ -39,6 +40,7 @@ void ScreenRegistry::Unload(Screen& screen) {
   screen.Hide();
   for (Control* control : screen.controls()) {
     if (control->kind() == ControlKind::kTimer) static_cast<Timer*>(control)->SetEnabled(false);
+    if (control->kind() == ControlKind::kRecorder) static_cast<WaveRecorder*>(control)->Leave();
   }
   unloaded_.push_back(std::move(*found));
   open_.erase(found);

@@ -36,7 +36,7 @@ class Registry : public StationFixture, public ScreensObserver {
   Registry() {
     station_.StartProgram();
     const Platform& p = station_.platform();
-    platform_ = std::make_unique<Platform>(Platform{p.clock, p.timers, p.files, p.media, p.dialogs,
+    platform_ = std::make_unique<Platform>(Platform{p.clock, p.timers, p.files, p.media, p.capture, p.dialogs,
                                                     p.programs, p.session_start, p.random, screens_, p.gate});
     screens_.Attach(*platform_);
     screens_.set_observer(this);

@@ -1,0 +1,107 @@
+#include "simulation/simulated_capture.h"
+
+#include <algorithm>
+#include <fstream>
+
+namespace quixair::simulation {
+
+using std::chrono::milliseconds;
+
+namespace {
+
+void PutNumber(std::string& bytes, std::uint32_t value, int size) {
+  for (int i = 0; i < size; ++i) bytes += static_cast<char>(value >> (8 * i));
+}
+
+/// A PCM WAV file of silence.
+std::string SilentWave(const RecordingFormat& format, std::int32_t length) {
+  const auto frame = static_cast<std::uint32_t>(format.channels * format.bits / 8);
+  const auto rate = static_cast<std::uint32_t>(format.rate);
+  const auto frames = static_cast<std::uint32_t>(static_cast<std::int64_t>(length) * format.rate / 1000);
+  std::string bytes = "RIFF";
+  PutNumber(bytes, 36 + frames * frame, 4);
+  bytes += "WAVEfmt ";
+  PutNumber(bytes, 16, 4);
+  PutNumber(bytes, 1, 2);
+  PutNumber(bytes, static_cast<std::uint32_t>(format.channels), 2);
+  PutNumber(bytes, rate, 4);
+  PutNumber(bytes, rate * frame, 4);
+  PutNumber(bytes, frame, 2);
+  PutNumber(bytes, static_cast<std::uint32_t>(format.bits), 2);
+  bytes += "data";
+  PutNumber(bytes, frames * frame, 4);
+  return bytes + std::string(std::size_t{frames} * frame, format.bits == 8 ? '\x80' : '\0');
+}
+
+}  // namespace
+
+class SimulatedCapture::SilentRecorder : public Recorder {
+ public:
+  explicit SilentRecorder(SimulatedCapture& capture)
+      : capture_(capture), end_(capture.time_.MakeTimer([this] { Stop(); })) {}
+  ~SilentRecorder() override { SilentRecorder::Stop(); }
+
+  void Listen(const RecordingFormat&) override {}
+
+  Status Start(const std::filesystem::path& file, const RecordingFormat& format,
+               milliseconds limit) override {
+    Stop();
+    if (!capture_.input_there) return RunTimeError::kDeviceUnavailable;
+    file_ = file;
+    format_ = format;
+    limit_ = limit;
+    started_ = capture_.time_.Steady();
+    recording_ = true;
+    end_->Start(limit);
+    if (!Write(0)) return RunTimeError::kPathFileAccess;
+    if (capture_.on_capture) capture_.on_capture(file_.filename().string(), true, 0);
+    return {};
+  }
+
+  void Stop() override {
+    if (!recording_) return;
+    length_ = Position();
+    recording_ = false;
+    end_->Stop();
+    Write(length_);
+    if (capture_.on_capture) capture_.on_capture(file_.filename().string(), false, length_);
+  }
+
+  bool recording() const override { return recording_; }
+  std::int32_t Position() const override {
+    if (!recording_) return length_;
+    const auto passed = std::chrono::duration_cast<milliseconds>(capture_.time_.Steady() - started_);
+    return static_cast<std::int32_t>(std::min(passed, limit_).count());
+  }
+  Levels TakeLevels() override { return {}; }
+  std::int64_t lost_frames() const override { return 0; }
+  std::string Trouble() const override { return capture_.trouble; }
+
+ private:
+  bool Write(std::int32_t length) {
+    std::ofstream out(file_, std::ios::binary);
+    out << SilentWave(format_, length);
+    recording_ = recording_ && out.good();
+    return out.good();
+  }
+
+  SimulatedCapture& capture_;
+  std::unique_ptr<TimerShots> end_;
+  std::filesystem::path file_;
+  RecordingFormat format_;
+  milliseconds limit_{0};
+  SteadyTime started_{};
+  std::int32_t length_ = 0;
+  bool recording_ = false;
+};
+
+std::unique_ptr<Recorder> SimulatedCapture::MakeRecorder() {
+  return std::make_unique<SilentRecorder>(*this);
+}
+
+Status SimulatedCapture::SaveFormat(const RecordingFormat& format) {
+  if (save_fault.ok()) saved_ = format;
+  return save_fault;
+}
+
+}  // namespace quixair::simulation
