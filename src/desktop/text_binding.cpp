@@ -11,6 +11,8 @@
 namespace quixair::desktop {
 namespace {
 
+constexpr int kNoLimit = 32767;  // the editor's own
+
 /// Focus that goes to another program or to a menu comes back: the person has not left the box.
 bool LeavesForGood(const QFocusEvent& event) {
   return event.reason() != Qt::ActiveWindowFocusReason && event.reason() != Qt::PopupFocusReason &&
@@ -34,7 +36,6 @@ class LineBinding : public Binding {
   LineBinding(TextBox& box, QLineEdit& widget) : Binding(box, widget), box_(box), widget_(widget) {
     widget.setReadOnly(box.read_only());
     if (box.read_only()) widget.setFocusPolicy(Qt::ClickFocus);
-    if (box.max_length() > 0) widget.setMaxLength(box.max_length());
     widget.installEventFilter(this);
     connect(&widget, &QLineEdit::textEdited, this,
             [this](const QString& text) { Act([this, &text] { box_.Edit(FromQt(text)); }); });
@@ -51,6 +52,7 @@ class LineBinding : public Binding {
 
  protected:
   void ShowText() override {
+    widget_.setMaxLength(box_.max_length() > 0 && !box_.read_only() ? box_.max_length() : kNoLimit);
     const QString text = box_.read_only() ? Trimmed(box_.text()) : ToQt(box_.text());
     if (widget_.text() == text) return;
     widget_.setText(text);

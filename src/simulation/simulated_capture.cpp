@@ -38,8 +38,13 @@ std::string SilentWave(const RecordingFormat& format, std::int32_t length) {
 class SimulatedCapture::SilentRecorder : public Recorder {
  public:
   explicit SilentRecorder(SimulatedCapture& capture)
-      : capture_(capture), end_(capture.time_.MakeTimer([this] { Stop(); })) {}
-  ~SilentRecorder() override { SilentRecorder::Stop(); }
+      : capture_(capture), end_(capture.time_.MakeTimer([this] { Stop(); })) {
+    capture_.recorders_.push_back(this);
+  }
+  ~SilentRecorder() override {
+    SilentRecorder::Stop();
+    std::erase(capture_.recorders_, this);
+  }
 
   void Listen(const RecordingFormat&) override {}
 
@@ -97,6 +102,10 @@ class SimulatedCapture::SilentRecorder : public Recorder {
 
 std::unique_ptr<Recorder> SimulatedCapture::MakeRecorder() {
   return std::make_unique<SilentRecorder>(*this);
+}
+
+void SimulatedCapture::BreakOff() {
+  for (SilentRecorder* recorder : recorders_) recorder->Stop();
 }
 
 Status SimulatedCapture::SaveFormat(const RecordingFormat& format) {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "simulation/virtual_time.h"
 #include "station/platform/recorder.h"
@@ -18,6 +19,9 @@ class SimulatedCapture : public Capture {
   std::optional<RecordingFormat> SavedFormat() override { return saved_; }
   Status SaveFormat(const RecordingFormat& format) override;
 
+  /// The running captures end as by a fault of disk or input.
+  void BreakOff();
+
   bool input_there = true;
   Status save_fault;    // what SaveFormat comes back with
   std::string trouble;  // what the recorders tell of themselves
@@ -28,6 +32,7 @@ class SimulatedCapture : public Capture {
   class SilentRecorder;
   VirtualTime& time_;
   std::optional<RecordingFormat> saved_;
+  std::vector<SilentRecorder*> recorders_;
 };
 
 }  // namespace quixair::simulation

@@ -13,6 +13,9 @@
 #include "station/picklist/pick_list_form1.h"
 #include "station/random/random_form1.h"
 #include "station/random/random_setup.h"
+#include "station/recording/auto_time.h"
+#include "station/recording/capture_screen.h"
+#include "station/recording/entry_screen.h"
 #include "station/templates/build_template.h"
 #include "station/templates/build_template1.h"
 #include "station/templates/copy_sat_temp.h"
@@ -34,8 +37,9 @@ std::unique_ptr<Screen> Make(const Platform& platform) {
 ScreenRegistry::Catalogue StationScreens() {
   return {
       {"Autostart", Make<Autostart>},
-      {"BuildTemplate1", Make<BuildTemplate1>},
+      {"AutoTime", Make<AutoTime>},
       {"BuildTemplate", Make<BuildTemplate>},
+      {"BuildTemplate1", Make<BuildTemplate1>},
       {"Console", Make<Console>},
       {"CopySatTemp", Make<CopySatTemp>},
       {"CustomInformation", Make<CustomInformation>},
@@ -51,12 +55,19 @@ ScreenRegistry::Catalogue StationScreens() {
       {"MMregOCX", Make<MMregOCX>},
       {"PickListForm1", Make<PickListForm1>},
       {"PickListForm2", Make<PickListForm2>},
-      {"PickPlayTemplate", Make<PickPlayTemplate>},
       {"NotBuilt", Make<NotBuilt>},
+      {"PickPlayTemplate", Make<PickPlayTemplate>},
       {"QXHelp", Make<QXHelp>},
       {"RandomForm1", Make<RandomForm1>},
       {"RandomForm2", Make<RandomForm2>},
       {"RandomSetup", Make<RandomSetup>},
+      {"RecordASong", Make<RecordASong>},
+      {"RecordIt", Make<RecordIt>},
+      {"RecordITLiner", Make<RecordITLiner>},
+      {"RecordITSpot", Make<RecordITSpot>},
+      {"RecordLiner", Make<RecordLiner>},
+      {"RecordSpot", Make<RecordSpot>},
+      {"RecordTimes", Make<RecordTimes>},
       {"RemoveSatSpot", Make<RemoveSatSpot>},
       {"SatPlayTemplate", Make<SatPlayTemplate>},
   };

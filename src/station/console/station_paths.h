@@ -42,6 +42,7 @@ inline constexpr std::string_view kEditSat = "C:\\QXAIR\\EDITSAT.DTA";
 inline constexpr std::string_view kStartTime = "C:\\QXAIR\\START.TMP";
 inline constexpr std::string_view kImportRequest = "C:\\QXAIR\\IMPORT.DAT";
 inline constexpr std::string_view kLastRecording = "C:\\QXAIR\\TEMPSPOT.DAT";
+inline constexpr std::string_view kTimeRecord = "C:\\QXAIR\\TIMERECORD.DTA";  // the announcement to record
 inline constexpr std::string_view kHandOver = "C:\\QXDATA\\TEMP.DAT";
 inline constexpr std::string_view kErrorLog = "C:\\QXAIR\\QXERROR.LOG";
 inline constexpr std::string_view kRotation = "C:\\QXTEMPLT\\ROTATWIN.DTA";

@@ -94,6 +94,20 @@ Result<LinerRecord> ReadLinerRecord(Files& files, std::string_view id) {
   return ReadRecord(files, id, ParseLiner);
 }
 
+Result<std::vector<std::string>> ReadRecordFields(Files& files, std::string_view id, std::size_t count) {
+  const Result<std::string> content = files.Read(station_paths::DataFile(id));
+  if (!content.ok()) return content.error();
+  std::vector<std::string> fields = ReadValues(content.value(), count);
+  if (fields.size() < count) return RunTimeError::kInputPastEnd;
+  return fields;
+}
+
+std::string FormatFields(const std::vector<std::string>& fields) {
+  WriteForm form;
+  for (const std::string& field : fields) form.Text(field);
+  return form.bytes();
+}
+
 std::vector<std::string> ReadLeadingFields(Files& files, std::string_view id, std::size_t count) {
   const std::string content = files.Read(station_paths::DataFile(id)).value_or({});
   std::vector<std::string> fields = ReadValues(content, count);

@@ -76,6 +76,10 @@ std::string FormatRecord(const LinerRecord& record);
 Result<SpotRecord> ReadSpotRecord(Files& files, std::string_view id);
 Result<MusicRecord> ReadMusicRecord(Files& files, std::string_view id);
 Result<LinerRecord> ReadLinerRecord(Files& files, std::string_view id);
+/// The first lines of any kind's data file, all of them there, else 62.
+Result<std::vector<std::string>> ReadRecordFields(Files& files, std::string_view id, std::size_t count);
+/// A text a line.
+std::string FormatFields(const std::vector<std::string>& fields);
 /// The first lines of any kind's data file, empty texts for those that are missing or when there is no file:
 /// what playback reads, under the rule that a failed read is skipped.
 std::vector<std::string> ReadLeadingFields(Files& files, std::string_view id, std::size_t count);

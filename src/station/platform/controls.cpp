@@ -133,6 +133,10 @@ void TextBox::SetText(std::string text) {
   Changed(Aspect::kText);
 }
 
+void TextBox::SetMaxLength(int length) {
+  if (std::exchange(max_length_, length) != length) Changed(Aspect::kText);
+}
+
 void TextBox::TypeKey(char key) {
   RaiseForPerson([this, key] {
     if (read_only()) return;

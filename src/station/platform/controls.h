@@ -191,7 +191,7 @@ class TextBox : public Control {
   void SetText(std::string text);
   bool read_only() const { return use_ == Use::kShow; }
   int max_length() const { return max_length_; }  // 0 is no limit
-  void SetMaxLength(int length) { max_length_ = length; }
+  void SetMaxLength(int length);
   std::string shown_text() const override { return text_; }
 
   std::function<void()> on_change;

@@ -1,0 +1,12 @@
+#pragma once
+
+// The transport buttons of a screen's own channel, on which an operator listens to a recording.
+
+#include "station/platform/controls.h"
+
+namespace quixair {
+
+/// Play starts, goes on, or plays once more from the top what has ended; Pause holds.
+void PlayByHand(MediaControl& channel);
+
+}  // namespace quixair

@@ -1,0 +1,68 @@
+#pragma once
+
+// The screens that record what an entry screen prepared: RecordITSpot, RecordIt for music, RecordITLiner. Each
+// is handed a record, captures its audio, and writes the data file again with the length measured. What is
+// written are the values as handed over, whatever the screen shows. A spot's capture ends by itself at its
+// preset length; songs and liners wait for the operator.
+
+#include <string>
+
+#include "station/platform/screen.h"
+#include "station/recording/record_boxes.h"
+#include "station/recording/recorder_panel.h"
+
+namespace quixair {
+
+struct CaptureKind {
+  RecordingKind kind;
+  const char* screen;
+  const char* title;
+  const char* entry_screen;
+};
+
+class CaptureScreen : public Screen {
+ public:
+  CaptureScreen(const Platform& platform, const CaptureKind& kind);
+  void Load() override;
+  void CloseWindow() override;
+
+  RecordBoxes data;
+  RecorderPanel recorder{*this};
+
+ protected:
+  /// The values as handed over; lines that were not there are empty.
+  RecordValues& values() { return values_; }
+  const RecordLayout& layout() const { return layout_; }
+
+ private:
+  bool WriteDataFile(const std::string& seconds);
+  void Erase();
+  void BackToEntry();
+
+  const CaptureKind& kind_;
+  const RecordLayout& layout_;
+  RecordValues values_;
+};
+
+class RecordITSpot : public CaptureScreen {
+ public:
+  explicit RecordITSpot(const Platform& platform);
+
+  Label Label17{*this, "Label17"};  // "out of 30 Secs."
+  Timer Timer2{*this, "Timer2"};    // sees the end of a capture that reached its length
+
+ private:
+  void SetLimit();
+};
+
+class RecordIt : public CaptureScreen {
+ public:
+  explicit RecordIt(const Platform& platform);
+};
+
+class RecordITLiner : public CaptureScreen {
+ public:
+  explicit RecordITLiner(const Platform& platform);
+};
+
+}  // namespace quixair

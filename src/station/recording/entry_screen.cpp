@@ -1,0 +1,294 @@
+#include "station/recording/entry_screen.h"
+
+#include "station/platform/dialogs.h"
+#include "station/platform/programs.h"
+#include "station/platform/recorder.h"
+#include "station/platform/text.h"
+#include "station/recording/audition.h"
+
+namespace quixair {
+namespace {
+
+constexpr int kTypedId = 5;
+constexpr int kWholeId = 6;
+constexpr std::string_view kNotInIds = "\" /\\:;#|'";
+constexpr Color kImportColor{0xCCCFFC};  // plain value 0xfccfcc
+constexpr std::size_t kExtension = 4;
+
+}  // namespace
+
+EntryScreen::EntryScreen(const Platform& platform, const EntryKind& kind)
+    : Screen(platform, kind.screen, kind.title),
+      data(*this, LayoutOf(kind.kind), TextBox::Use::kEnter),
+      kind_(kind),
+      layout_(LayoutOf(kind.kind)) {
+  Label11.SetCaption(kind.list_caption);
+  Label12.SetCaption(kind.id_cue);
+  data.id().SetHint(kind.id_cue);
+  ConnectButtons();
+  ConnectId();
+  ConnectList();
+  PlayByHand(MMControl1);
+  Drive1.on_click = [this] { DriveChosen(); };
+  Timer1.on_tick = [this] { ShowPosition(); };
+}
+
+void EntryScreen::ConnectButtons() {
+  Command1.on_click = [this] { NewRecording(); };
+  Command2.on_click = [this] { Audition(); };
+  Command3.on_click = [this] { platform_.screens.Open("EraseUtility"); };
+  Command4.on_click = [this] { EditData(); };
+  Command5.on_click = [this] { ImportFile(); };
+  Command6.on_click = [this] { ReRecordLast(); };
+  Command7.on_click = [this] { CloseWindow(); };
+  Command8.on_click = [this] { Restart(); };
+  Command9.on_click = [this] { RecordNow(); };
+  OLE1.on_click = [this] { platform_.programs.Run("C:\\WINDOWS\\sndvol32.exe"); };
+}
+
+void EntryScreen::ConnectId() {
+  TextBox& id = data.id();
+  RefuseCharacters(id, kNotInIds, [this](char key) {
+    platform_.dialogs.MessageBox(std::string("The Character you entered (") + key +
+                                     ") cannot\nbe used in filenames.  Try entering a \n"
+                                     "different file name using 0-9, A-Z.",
+                                 box_style::kExclamation, "Invalid Character ");
+  });
+  id.on_key_press = [this, refuse = id.on_key_press](char& key) {
+    Text1.SetText("Press TAB or click another field to edit next item when ready.");
+    if (data.id().text().empty()) {
+      for (const FirstKeyHint& first : kind_.first_keys) {
+        if (first.key == key) Text1.SetText(first.hint);
+      }
+    }
+    refuse(key);
+  };
+  id.on_lost_focus = [this] { IdLeft(); };
+}
+
+void EntryScreen::ConnectList() {
+  File1.on_click = [this] {
+    if (mode_ != Mode::kNone) {
+      Text1.SetText("Move Up/Down, Then Double Click your selection to continue...");
+    }
+  };
+  File1.on_double_click = File1.on_enter = [this] { TakeFromList(); };
+}
+
+void EntryScreen::Load() {
+  LeaveModes();
+  EnableChoices(true);
+  Command8.Disable();
+  Command9.Disable();
+  Command9.SetCaption("&Record Now");
+  data.Clear();
+  data.ShowToday();
+  data.id().SetMaxLength(kTypedId);
+  data.id().Disable();
+  data.length().Disable();
+  data.drive().Disable();
+  data.drive().Show();
+  data.EnableData(false);
+  data.SetCaptionColor(std::nullopt);
+  EnableExtras(false);
+  PresetRead({});
+  Drive1.Hide();
+  Drive1.Enable();
+  Drive1.Refresh();
+  Drive1.SelectDrive(platform_.capture.drive());
+  drive_.clear();
+  Label12.Hide();
+  File1.SetPattern(kind_.pattern);
+  File1.SetPath("c:\\qxdata");
+  File1.Enable();
+  Text1.SetText("Make your selection.  To re-record existing, choose from the list.");
+}
+
+void EntryScreen::CloseWindow() {
+  LeaveModes();
+  Unload();
+}
+
+void EntryScreen::Restart() {
+  Load();
+  Command1.SetFocus();
+}
+
+void EntryScreen::LeaveModes() {
+  mode_ = Mode::kNone;
+  new_id_ = false;
+  looked_up_.clear();
+  Timer1.SetEnabled(false);
+  MMControl1.Command("Close");
+}
+
+void EntryScreen::EnableChoices(bool enabled) {
+  for (Button* choice : {&Command1, &Command2, &Command3, &Command4, &Command5, &Command6, &Command7}) {
+    choice->Enable(enabled);
+  }
+  File1.Enable(enabled);
+}
+
+void EntryScreen::NewRecording() {
+  BeginNew(Mode::kNew);
+}
+
+void EntryScreen::BeginNew(Mode mode) {
+  mode_ = mode;
+  data.id().SetText({});
+  EnableChoices(false);
+  Command8.Enable();
+  Command9.Enable();
+  data.id().Enable();
+  data.EnableData(true);
+  data.drive().Hide();
+  Drive1.Show();
+  Label12.Show();
+  data.length().SetText("[New]");
+  if (*kind_.new_hint != '\0') Text1.SetText(kind_.new_hint);
+  NewRecordingBegins();
+  data.id().SetFocus();
+}
+
+void EntryScreen::EditData() {
+  mode_ = Mode::kEdit;
+  EnableChoices(false);
+  Command8.Enable();
+  Command9.SetCaption("&Save");
+  data.SetCaptionColor(kYellow);
+  data.id().SetMaxLength(kWholeId);
+  Text1.SetText("Edit Data for an Existing Recording...");
+  for (;;) {
+    const std::string id = platform_.dialogs.InputBox(
+        std::string("Enter ID, then 'OK', or 'Cancel' to choose from list..\n") + kind_.editable, "Edit Data",
+        layout_.Letter());
+    if (id.empty()) {
+      File1.Enable();
+      File1.SetFocus();
+      return;
+    }
+    data.id().SetText(id);
+    if (ShowRecording(id) != RunTimeError::kFileNotFound) return;
+    TellRecordFault(platform_.dialogs, RunTimeError::kFileNotFound, layout_.letter + id, kind_.software,
+                    AbnormalFault::kReturns);
+  }
+}
+
+void EntryScreen::ImportFile() {
+  mode_ = Mode::kImport;
+  EnableChoices(false);
+  Command8.Enable();
+  Command9.SetCaption("I&mport Now");
+  data.SetCaptionColor(kImportColor);
+  const Answer answer = platform_.dialogs.MessageBox(
+      "Is this a new DATA file?  [Click 'NO'\n to select from the list of existing files]",
+      box_style::kYesNo + box_style::kQuestion, "Import Recording");
+  if (answer == Answer::kYes) {
+    BeginNew(Mode::kImport);
+  } else {
+    File1.Enable();
+    File1.SetFocus();
+  }
+}
+
+void EntryScreen::ReRecordLast() {
+  const Result<std::string> last = ReadLastRecording(platform_.files);
+  if (!last.ok()) {
+    RefuseLast("Sorry, There is no previous file to re-record!");
+  } else if (!StartsWithIgnoringCase(last.value(), layout_.Letter())) {
+    RefuseLast(kind_.wrong_last_file);
+  } else {
+    mode_ = Mode::kReRecordLast;
+    Take(last.value());
+  }
+}
+
+void EntryScreen::RefuseLast(const std::string& why) {
+  platform_.dialogs.MessageBox(why, box_style::kExclamation, "Can't Re-Record Last");
+  Restart();
+}
+
+void EntryScreen::TakeFromList() {
+  std::string id = File1.selected_text();
+  if (id.size() <= kExtension) return;
+  id.resize(id.size() - kExtension);
+  if (mode_ == Mode::kAudition) {
+    Play(id);
+  } else {
+    Take(id);
+  }
+}
+
+void EntryScreen::Take(const std::string& id) {
+  if (ShowRecording(id) != RunTimeError::kFileNotFound) return;
+  TellFault(RunTimeError::kFileNotFound, id, AbnormalFault::kReturns);  // it has gone since it was listed
+  Restart();
+}
+
+void EntryScreen::IdLeft() {
+  const std::string typed = data.id().text();
+  if (typed.empty() && mode_ != Mode::kEdit) {
+    const Answer answer = platform_.dialogs.MessageBox(
+        "You can't go on until entering at least\n    one digit for a file name.   Press\n"
+        "OK to continue, or CANCEL to restart.",
+        box_style::kOkCancel + box_style::kInformation, "Enter A File Name ");
+    if (answer == Answer::kOk) {
+      data.id().SetFocus();
+    } else {
+      Restart();
+    }
+    return;
+  }
+  looked_up_ = typed;
+  new_id_ = ShowRecording(layout_.letter + typed) == RunTimeError::kFileNotFound;
+}
+
+RunTimeError EntryScreen::ShowRecording(const std::string& id) {
+  // A recording of another kind has its lines in another order: it is none of this screen's.
+  if (!StartsWithIgnoringCase(id, layout_.Letter())) return RunTimeError::kFileNotFound;
+  Result<RecordValues> read = ReadRecordFields(platform_.files, id, layout_.lines.size());
+  if (read.error() == RunTimeError::kFileNotFound) return read.error();
+  if (!read.ok()) {
+    TellFault(read.status(), id, AbnormalFault::kReturns);
+    return read.error();
+  }
+  RecordValues values = std::move(read).value();
+  ValueOf(values, layout_, RecordSlot::kId) = id;
+  ShowExisting(values);
+  return RunTimeError::kNone;
+}
+
+void EntryScreen::ShowExisting(RecordValues& values) {
+  data.id().SetMaxLength(kWholeId);
+  data.Show(values);
+  data.id().Disable();
+  data.EnableData(true);
+  EnableExtras(true);
+  drive_ = ValueOf(values, layout_, RecordSlot::kDrive);
+  Drive1.Hide();
+  data.drive().Show();
+  Label12.Hide();
+  EnableChoices(false);
+  Command8.Enable();
+  Command9.Enable();
+  if (mode_ == Mode::kEdit) {
+    Text1.SetText(ValueOf(values, layout_, RecordSlot::kId) + kind_.file_taken);
+  }
+  if (layout_.HasPreset()) PresetRead(ValueOf(values, layout_, RecordSlot::kPreset));
+  MeasureAudio(ValueOf(values, layout_, RecordSlot::kId));
+  data.first_text().SetFocus();
+  if (mode_ == Mode::kImport) AskBeforeImport();
+}
+
+void EntryScreen::AskBeforeImport() {
+  const Answer answer = platform_.dialogs.MessageBox(
+      "This is not a new data file.  Do you\nwant to edit the data before going to\nthe import utility?",
+      box_style::kYesNo + box_style::kQuestion, "(Import) File Already Exists");
+  if (answer == Answer::kYes) {
+    data.first_text().SetFocus();
+  } else {
+    GoToImport(data.id().text());
+  }
+}
+
+}  // namespace quixair

@@ -1,0 +1,95 @@
+// Record Now on an entry screen: the data file and what the next screen is handed.
+
+#include "station/console/station_paths.h"
+#include "station/platform/dialogs.h"
+#include "station/platform/files.h"
+#include "station/platform/recorder.h"
+#include "station/recording/entry_screen.h"
+
+namespace quixair {
+
+void EntryScreen::RecordNow() {
+  if (mode_ == Mode::kAudition) {
+    Restart();
+    return;
+  }
+  const bool id_not_left = data.id().enabled() && looked_up_ != data.id().text();
+  if (id_not_left) {  // pressed by its key, the id still in focus
+    IdLeft();
+    if (!new_id_) return;
+  }
+  if (new_id_ && !DriveHasFolder(Drive().front())) {
+    Drive1.SetFocus();
+    return;
+  }
+  data.id().Disable();
+  data.EnableData(false);
+  EnableExtras(false);
+  Drive1.Disable();
+  RecordValues values = Gathered();
+  const std::string id = ValueOf(values, layout_, RecordSlot::kId);
+  Text1.SetText("Writing to Disk...");
+  Repaint();
+  const Status written = Write(values);
+  if (!written.ok()) {
+    TellFault(written, id, AbnormalFault::kEndsProgram);
+  } else if (mode_ == Mode::kImport) {
+    GoToImport(id);
+  } else if (mode_ == Mode::kEdit) {
+    Restart();
+  } else {
+    GoToCapture(values);
+  }
+}
+
+std::string EntryScreen::Drive() const {
+  return drive_.empty() ? std::string(1, platform_.capture.drive()) : drive_;
+}
+
+RecordValues EntryScreen::Gathered() const {
+  RecordValues values = data.Typed();
+  if (new_id_) ValueOf(values, layout_, RecordSlot::kId).insert(0, 1, layout_.letter);
+  ValueOf(values, layout_, RecordSlot::kDrive) = Drive();
+  if (layout_.HasPreset()) ValueOf(values, layout_, RecordSlot::kPreset) = Preset();
+  return values;
+}
+
+Status EntryScreen::Write(RecordValues& values) {
+  const std::string bytes = FormatFields(values);
+  const std::string path = station_paths::DataFile(ValueOf(values, layout_, RecordSlot::kId));
+  const Status written = platform_.files.Write(path, bytes, Durability::kFlushed);
+  return written.ok() ? WriteHandOverRecord(platform_.files, bytes) : written;
+}
+
+void EntryScreen::GoToCapture(RecordValues& values) {
+  const std::string id = ValueOf(values, layout_, RecordSlot::kId);
+  if (const Status written = WriteLastRecording(platform_.files, id); !written.ok()) {
+    TellFault(written, id, AbnormalFault::kEndsProgram);
+    return;
+  }
+  DeleteOldAudio(Drive(), id);
+  Text1.SetText("Calling Quixair Recorder");
+  LeaveModes();
+  platform_.screens.Open(kind_.capture_screen);
+  Unload();
+}
+
+void EntryScreen::GoToImport(const std::string& id) {
+  const Status written =
+      WriteImportRequest(platform_.files, {.RecordingId = id, .Drive = Drive(), .kind = kind_.kind});
+  if (!written.ok()) {
+    TellFault(written, id, AbnormalFault::kEndsProgram);
+    return;
+  }
+  LeaveModes();
+  platform_.screens.Open("ImportWin");
+  Unload();
+}
+
+void EntryScreen::TellFault(const Status& fault, const std::string& missing, AbnormalFault abnormal) {
+  TellRecordFault(platform_.dialogs, fault, missing, kind_.software, abnormal);
+  LeaveModes();
+  Text1.SetText("1");  // the number of the button that answered: wanted, the engineer knows it so
+}
+
+}  // namespace quixair

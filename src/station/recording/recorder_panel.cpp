@@ -1,0 +1,162 @@
+#include "station/recording/recorder_panel.h"
+
+#include "station/platform/dialogs.h"
+#include "station/platform/files.h"
+#include "station/platform/programs.h"
+#include "station/platform/text.h"
+#include "station/recording/audition.h"
+#include "station/recording/entry_screen.h"
+
+namespace quixair {
+namespace {
+
+constexpr std::chrono::milliseconds kPositionInterval{100};
+
+std::string FileNameOf(const std::string& path) {
+  return path.substr(path.rfind('\\') + 1);
+}
+
+}  // namespace
+
+RecorderPanel::RecorderPanel(Screen& screen)
+    : Text6(screen, "Text6", TextBox::Use::kShow),
+      SecondsRecorded(screen, "SecondsRecorded"),
+      Label5(screen, "Label5"),
+      PlayPos(screen, "PlayPos"),
+      Trouble(screen, "Trouble"),
+      RecordBtn(screen, "RecordBtn", "&Start"),
+      StopBtn(screen, "StopBtn", "S&top"),
+      Command1(screen, "Command1", "&Audition"),
+      NowExit(screen, "NowExit", "&Exit"),
+      CancelButton(screen, "CancelButton", "&Cancel/Erase"),
+      changesettingsButton(screen, "changesettingsButton", "S&ettings"),
+      SaveSettingsButton(screen, "SaveSettingsButton", "S&ave Settings"),
+      OLE1(screen, "OLE1", "&Volume"),
+      MMControl1(screen, "MMControl1", kAuditionChannel),
+      MMWaveRecorderX(screen, "MMWaveRecorderX"),
+      Timer1(screen, "Timer1"),
+      screen_(screen) {
+  Connect();
+}
+
+void RecorderPanel::Connect() {
+  RecordBtn.on_click = [this] { Start(); };
+  StopBtn.on_click = [this] { Stop(); };
+  Command1.on_click = [this] { Audition(); };
+  changesettingsButton.on_click = [this] {
+    MMWaveRecorderX.LoadFormat();
+    MMWaveRecorderX.ChooseFormat();
+    ShowFormat();
+    MMWaveRecorderX.Listen();
+  };
+  SaveSettingsButton.on_click = [this] { SaveSettings(); };
+  OLE1.on_click = [this] { screen_.platform().programs.Run("C:\\WINDOWS\\sndvol32.exe"); };
+  MMWaveRecorderX.on_started = [this] {
+    RecordBtn.Disable();
+    StopBtn.Enable();
+  };
+  MMWaveRecorderX.on_stopped = [this] {
+    RecordBtn.Enable();
+    StopBtn.Disable();
+    if (!stopping_) CaptureEnded();
+  };
+  MMWaveRecorderX.on_progress = [this] { ShowProgress(); };
+  Timer1.on_tick = [this] { PlayPos.SetCaption(ShortestSeconds(MMControl1.Position()) + " Seconds"); };
+  PlayByHand(MMControl1);
+}
+
+void RecorderPanel::Prepare() {
+  Text6.SetText("Click 'Start' to Begin Recording.  Select Audio Format by Clicking 'Settings'.");
+  StopBtn.Disable();
+  MMControl1.Disable();
+  MMWaveRecorderX.LoadFormat();
+  ShowFormat();
+  MMWaveRecorderX.Listen();
+}
+
+void RecorderPanel::Start() {
+  Timer1.SetEnabled(false);
+  PlayPos.SetCaption({});
+  MMControl1.Command("Close");
+  if (on_start) on_start();
+  EnableChoices(false);
+  screen_.platform().capture.set_drive(UpperCased(path.front()));
+  MMWaveRecorderX.SetFileName(path);
+  MMWaveRecorderX.LoadFormat();  // a format that was chosen and not saved is not taken: wanted
+  ShowFormat();
+  MMWaveRecorderX.SetMaxRecordTime(limit);
+  const Status started = MMWaveRecorderX.Record();
+  if (started.ok()) {
+    Text6.SetText("Currently Recording " + FileNameOf(path));
+    if (on_recording) on_recording();
+    return;
+  }
+  EnableChoices(true);
+  Text6.SetText("Nothing is being recorded.");
+  TellFileFault(screen_.platform().dialogs, started, "Nothing was recorded.");
+}
+
+/// At its limit, or since the disk is full or the input has gone: what there is is saved without the operator.
+void RecorderPanel::CaptureEnded() {
+  const std::string trouble = MMWaveRecorderX.Trouble();
+  Stop();
+  if (!trouble.empty()) {
+    screen_.platform().dialogs.MessageBox(trouble, box_style::kExclamation, "Recording Has Ended");
+  }
+}
+
+void RecorderPanel::Stop() {
+  stopping_ = true;
+  MMWaveRecorderX.Stop();
+  stopping_ = false;
+  MMControl1.Enable();
+  MMControl1.Command("Close");
+  Text6.SetText("Writing Data file to Disk");
+  const bool written = !on_saved || on_saved(FixedDecimals(MMWaveRecorderX.RecordedLength() / 1000.0, 1));
+  MMControl1.Command("Close");
+  EnableChoices(true);
+  if (written) {
+    Text6.SetText("File Saved: Click 'Exit' for New File, 'Start' to Re-Record, 'Audition' to Listen.");
+  }
+}
+
+bool RecorderPanel::EraseConfirmed(const std::string& name) {
+  const Answer answer = screen_.platform().dialogs.MessageBox(
+      "You are about to erase " + name +
+          " and\nall data associated with this file.  Do you wish to continue?",
+      box_style::kOkCancel + box_style::kCritical, "Erase File?");
+  if (answer != Answer::kOk) return false;
+  Text6.SetText("Erasing File");
+  MMControl1.Command("Close");
+  return true;
+}
+
+void RecorderPanel::EnableChoices(bool enabled) {
+  for (Button* choice : {&Command1, &NowExit, &changesettingsButton, &CancelButton}) choice->Enable(enabled);
+}
+
+void RecorderPanel::ShowFormat() {
+  Label5.SetCaption(InWords(MMWaveRecorderX.format()));
+}
+
+void RecorderPanel::ShowProgress() {
+  SecondsRecorded.SetCaption(ShortestSeconds(MMWaveRecorderX.Position()));
+  Trouble.SetCaption(MMWaveRecorderX.Trouble());
+}
+
+void RecorderPanel::Audition() {
+  MMControl1.Enable();
+  MMControl1.SetFileName(MMWaveRecorderX.file_name().empty() ? path : MMWaveRecorderX.file_name());
+  MMControl1.Command("Open");
+  Timer1.SetInterval(kPositionInterval);
+  Timer1.SetEnabled(true);
+}
+
+void RecorderPanel::SaveSettings() {
+  const Status saved = MMWaveRecorderX.SaveFormat();
+  if (!saved.ok()) TellFileFault(screen_.platform().dialogs, saved, "The format was not saved.");
+  MMWaveRecorderX.LoadFormat();
+  ShowFormat();
+}
+
+}  // namespace quixair

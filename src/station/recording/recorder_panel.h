@@ -1,0 +1,67 @@
+#pragma once
+
+// The recorder of a capture screen with its buttons: what the screens that record a library item and the one
+// that records a time announcement have in common. The screen says what file is recorded, how long it may
+// get, and what is to be done with the finished length.
+
+#include <chrono>
+#include <functional>
+#include <string>
+
+#include "station/platform/recorder_control.h"
+#include "station/platform/screen.h"
+
+namespace quixair {
+
+/// Serves as no limit: 10,000 seconds.
+inline constexpr std::chrono::milliseconds kNoLimit{10'000'000};
+
+class RecorderPanel {
+ public:
+  explicit RecorderPanel(Screen& screen);
+  RecorderPanel(const RecorderPanel&) = delete;
+  RecorderPanel& operator=(const RecorderPanel&) = delete;
+
+  TextBox Text6;  // status
+  Label SecondsRecorded;
+  Label Label5;   // the format in words
+  Label PlayPos;  // seconds of an audition
+  Label Trouble;  // of the input, or why a capture ended
+  Button RecordBtn, StopBtn;
+  Button Command1;  // audition
+  Button NowExit, CancelButton, changesettingsButton, SaveSettingsButton;
+  Button OLE1;  // the host's mixer
+  MediaControl MMControl1;
+  WaveRecorder MMWaveRecorderX;
+  Timer Timer1;  // shows how far an audition is
+
+  /// Where the next capture goes; its drive becomes the drive of the latest capture.
+  std::string path;
+  std::chrono::milliseconds limit = kNoLimit;
+  std::function<void()> on_start;      // before a capture: `limit` can still be set
+  std::function<void()> on_recording;  // it has begun
+  /// A capture is over: seconds with one decimal. False when what is to be written could not be.
+  std::function<bool(const std::string& seconds)> on_saved;
+
+  /// The screen is ready for the first capture.
+  void Prepare();
+  void Start();
+  /// Ends the capture, if one runs, and has what there is saved; a second time does the same again.
+  void Stop();
+  /// Asks whether the recording is to go; the channel lets go of it when it is.
+  bool EraseConfirmed(const std::string& name);
+
+ private:
+  void Connect();
+  void CaptureEnded();
+  void ShowFormat();
+  void ShowProgress();
+  void Audition();
+  void SaveSettings();
+  void EnableChoices(bool enabled);
+
+  Screen& screen_;
+  bool stopping_ = false;
+};
+
+}  // namespace quixair

@@ -1,0 +1,271 @@
+#include "station/recording/recording_fixture.h"
+
+namespace quixair::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+constexpr const char* kSpot = "RecordITSpot";
+constexpr const char* kSong = "RecordIt";
+constexpr const char* kLiner = "RecordITLiner";
+constexpr const char* kSaved =
+    "File Saved: Click 'Exit' for New File, 'Start' to Re-Record, 'Audition' to Listen.";
+
+class CaptureScreens : public RecordingFixture {
+ protected:
+  CaptureScreens() {
+    station_.capture().on_capture = [this](const std::string& file, bool began, std::int32_t length) {
+      captures_.push_back(file + (began ? " began" : " " + std::to_string(length)));
+    };
+  }
+  /// A new spot, handed over to the capture screen; `preset` is typed into the length frame.
+  void HandOverSpot(std::string_view preset) {
+    BeginNew("RecordSpot", "1");
+    if (!preset.empty()) Type("RecordSpot", "Text6", preset);
+    Click("RecordSpot", "Command9");
+  }
+  void HandOver(std::string_view entry, std::string_view id) {
+    BeginNew(entry, id);
+    Click(entry, "Command9");
+  }
+  std::vector<std::string> captures_;
+};
+
+TEST_F(CaptureScreens, SpotWithAPreset_EndsAndSavesItself) {
+  HandOverSpot("45");
+  EXPECT_EQ(Shown(kSpot, "Text2"), "S1");
+  Click(kSpot, "RecordBtn");
+  EXPECT_EQ(Shown(kSpot, "Text6"), "Currently Recording S1.WAV");
+  EXPECT_EQ(Shown(kSpot, "Label17"), "out of 45 Secs.");
+  for (const char* off : {"RecordBtn", "NowExit", "Command1", "CancelButton", "changesettingsButton"}) {
+    EXPECT_FALSE(Enabled(kSpot, off)) << off;
+  }
+  Advance(20s);
+  EXPECT_EQ(Shown(kSpot, "SecondsRecorded"), "20");
+  Advance(26s);
+  EXPECT_THAT(captures_, ElementsAre("S1.WAV began", "S1.WAV 45000"));
+  EXPECT_EQ(Shown(kSpot, "Text6"), kSaved);
+  EXPECT_THAT(FileText("QXDATA/S1.DAT"), StartsWith("\"45.0\"\r\n\"S1\"\r\n"));
+  EXPECT_TRUE(Enabled(kSpot, "NowExit"));
+}
+
+TEST_F(CaptureScreens, EachPreset_IsItsLimit) {
+  const struct {
+    const char *preset, *label;
+    std::int64_t seconds;
+  } cases[] = {{"30", "out of 30 Secs.", 30},
+               {"60", "out of 60 Secs.", 60},
+               {"90", "out of 90 Secs.", 90},
+               {"7", "out of 7 Secs.", 7},
+               {"", "", 10000}};
+  for (const auto& [preset, label, seconds] : cases) {
+    SCOPED_TRACE(preset);
+    HandOverSpot(preset);
+    Click(kSpot, "RecordBtn");
+    EXPECT_EQ(Shown(kSpot, "Label17"), label);
+    EXPECT_EQ(Find<WaveRecorder>(kSpot, "MMWaveRecorderX").max_record_time(), std::chrono::seconds(seconds));
+    Click(kSpot, "StopBtn");
+    std::filesystem::remove(Host("QXDATA/S1.DAT"));
+  }
+}
+
+TEST_F(CaptureScreens, StopByHand_WritesTheMeasuredLengthAndTheEmptyLines) {
+  const struct {
+    const char *entry, *capture, *file, *end;
+  } cases[] = {{"RecordASong", kSong, "QXDATA/M5.DAT", "\"11-22-26\"\r\n\"\"\r\n\r\n\r\n"},
+               {"RecordLiner", kLiner, "QXDATA/L5.DAT", "\"11-22-26\"\r\n\"\"\r\n\r\n\r\n\r\n"}};
+  for (const auto& [entry, capture, file, end] : cases) {
+    SCOPED_TRACE(entry);
+    HandOver(entry, "5");
+    Click(capture, "RecordBtn");
+    Advance(12345ms);
+    Click(capture, "StopBtn");
+    EXPECT_THAT(FileText(file), StartsWith("\"12.3\"\r\n"));
+    EXPECT_TRUE(FileText(file).ends_with(end)) << FileText(file);
+    EXPECT_EQ(Shown(capture, "Text6"), kSaved);
+  }
+}
+
+TEST_F(CaptureScreens, RecordAgain_OverwritesAndExitGoesBack) {
+  HandOver("RecordASong", "5");
+  for (const int seconds : {30, 12}) {
+    Click(kSong, "RecordBtn");
+    Advance(std::chrono::seconds(seconds));
+    Click(kSong, "StopBtn");
+  }
+  EXPECT_THAT(FileText("QXDATA/M5.DAT"), StartsWith("\"12.0\"\r\n"));
+  EXPECT_EQ(std::filesystem::file_size(Host("QXWAVE/M5.WAV")), 44U + 12U * 176400U);
+  Click(kSong, "NowExit");
+  EXPECT_TRUE(IsOpen("RecordASong"));
+  EXPECT_FALSE(IsOpen(kSong));
+}
+
+TEST_F(CaptureScreens, NoInput_IsToldAndTheRecordStaysAsItWas) {
+  HandOverSpot("30");
+  const std::string before = FileText("QXDATA/S1.DAT");
+  station_.capture().input_there = false;
+  QueueAnswer("OK");
+  Click(kSpot, "RecordBtn");
+  EXPECT_THAT(boxes().back().text, HasSubstr("The sound input is not there."));
+  Advance(3s);
+  EXPECT_EQ(FileText("QXDATA/S1.DAT"), before);
+  EXPECT_FALSE(Exists("QXWAVE/S1.WAV"));
+  EXPECT_TRUE(Enabled(kSpot, "RecordBtn"));
+  EXPECT_TRUE(Enabled(kSpot, "NowExit"));
+}
+
+TEST_F(CaptureScreens, CaptureThatBreaksOff_IsSavedAndTold) {
+  for (const char* screen : {kSong, kSpot}) {
+    SCOPED_TRACE(screen);
+    station_.capture().trouble.clear();
+    if (screen == kSong) HandOver("RecordASong", "5");
+    if (screen == kSpot) HandOverSpot("30");
+    Click(screen, "RecordBtn");
+    Advance(8s);
+    station_.capture().trouble = "The disk is full.";
+    station_.capture().BreakOff();
+    QueueAnswer("OK");
+    Advance(1500ms);
+    EXPECT_EQ(boxes().back().text, "The disk is full.");
+    EXPECT_THAT(FileText(screen == kSong ? "QXDATA/M5.DAT" : "QXDATA/S1.DAT"), StartsWith("\"8.0\"\r\n"));
+    EXPECT_TRUE(Enabled(screen, "NowExit")) << "the operator is not locked in";
+  }
+}
+
+TEST_F(CaptureScreens, DataFileThatCannotBeWritten_IsToldAndStopTriesAgain) {
+  HandOver("RecordASong", "5");
+  Click(kSong, "RecordBtn");
+  Advance(8s);
+  std::filesystem::remove(Host("QXDATA/M5.DAT"));
+  Block("QXDATA/M5.DAT");
+  QueueAnswer("OK");
+  Click(kSong, "StopBtn");
+  EXPECT_THAT(Shown(kSong, "Text6"), StartsWith("The data file was not written"));
+  EXPECT_TRUE(Exists("QXWAVE/M5.WAV"));
+  EXPECT_TRUE(station_.running());
+}
+
+TEST_F(CaptureScreens, WindowClosedInMidCapture_SavesWhatThereIs) {
+  HandOver("RecordASong", "5");
+  Click(kSong, "RecordBtn");
+  Advance(8s);
+  station_.Do([this] { station_.FindScreen(kSong)->CloseWindow(); });
+  EXPECT_THAT(captures_, ElementsAre("M5.WAV began", "M5.WAV 8000"));
+  EXPECT_THAT(FileText("QXDATA/M5.DAT"), StartsWith("\"8.0\"\r\n"));
+}
+
+TEST_F(CaptureScreens, CancelErase_TakesBothFilesAfterTheQuestion) {
+  HandOver("RecordASong", "5");
+  Click(kSong, "RecordBtn");
+  Advance(8s);
+  Click(kSong, "StopBtn");
+  QueueAnswer("Cancel");
+  Click(kSong, "CancelButton");
+  EXPECT_EQ(boxes().back().text,
+            "You are about to erase M5 and\nall data associated with this file.  Do you wish to continue?");
+  EXPECT_TRUE(Exists("QXDATA/M5.DAT"));
+  QueueAnswer("OK");
+  Click(kSong, "CancelButton");
+  EXPECT_FALSE(Exists("QXDATA/M5.DAT"));
+  EXPECT_FALSE(Exists("QXWAVE/M5.WAV"));
+  EXPECT_TRUE(IsOpen("RecordASong"));
+}
+
+TEST_F(CaptureScreens, Format_IsKeptBySaveAloneAndTakenAtStart) {
+  HandOver("RecordASong", "5");
+  EXPECT_EQ(Shown(kSong, "Label5"), "PCM  44100 Hz, 16 Bit, Stereo");
+  QueueAnswer("22050 8 1");
+  Click(kSong, "changesettingsButton");
+  EXPECT_EQ(Shown(kSong, "Label5"), "PCM  22050 Hz, 8 Bit, Mono");
+  Click(kSong, "SaveSettingsButton");
+  Click(kSong, "RecordBtn");
+  Advance(2s);
+  Click(kSong, "StopBtn");
+  EXPECT_EQ(std::filesystem::file_size(Host("QXWAVE/M5.WAV")), 44U + 2U * 22050U);
+  station_.capture().save_fault = RunTimeError::kPathFileAccess;
+  QueueAnswer("OK");
+  Click(kSong, "SaveSettingsButton");
+  EXPECT_THAT(boxes().back().text, HasSubstr("The format was not saved."));
+}
+
+TEST_F(CaptureScreens, NextNewRecording_IsOfferedTheDriveOfTheLastCapture) {
+  std::filesystem::create_directories(Host("..") / "D" / "QXWAVE");
+  BeginNew("RecordSpot", "1");
+  auto& drives = Find<DriveListBox>("RecordSpot", "Drive1");
+  drives.PersonSelects({1});
+  Click("RecordSpot", "Command9");
+  Click(kSpot, "RecordBtn");
+  Advance(2s);
+  Click(kSpot, "StopBtn");
+  Click(kSpot, "NowExit");
+  Click("RecordSpot", "Command1");
+  Type("RecordSpot", "Text2", "2");
+  Leave("RecordSpot", "Text2");
+  Click("RecordSpot", "Command9");
+  EXPECT_THAT(FileText("QXDATA/S2.DAT"), HasSubstr("\"S2\"\r\n\"D\"\r\n"));
+}
+
+class TimeAnnouncements : public RecordingFixture {
+ protected:
+  void OpenAutoTime() {
+    StartConsole();
+    Menu("AutoTimeRecord");
+  }
+};
+
+TEST_F(TimeAnnouncements, HourAndMinute_NameTheRecording) {
+  OpenAutoTime();
+  QueueAnswer("OK");
+  Click("AutoTime", "Command1");
+  EXPECT_EQ(boxes().back().title, "Invalid Time");
+  Find<ListBox>("AutoTime", "List1").PersonSelects({0});
+  QueueAnswer("OK");
+  Click("AutoTime", "Command1");
+  EXPECT_EQ(boxes().back().title, "Invalid Time") << "no minute";
+  Find<ListBox>("AutoTime", "List2").PersonSelects({22});
+  EXPECT_EQ(Shown("AutoTime", "Label4"), "Recording Name = T0122.WAV");
+  Click("AutoTime", "Command1");
+  EXPECT_EQ(FileText("QXAIR/TIMERECORD.DTA"), "\"T0122.WAV\"\r\n\"01\"\r\n\"22\"\r\n");
+  EXPECT_EQ(Shown("RecordTimes", "Text2"), "T0122.WAV");
+  EXPECT_EQ(Shown("RecordTimes", "Label4"), "01:22");
+  Click("RecordTimes", "RecordBtn");
+  Advance(3s);
+  Click("RecordTimes", "StopBtn");
+  EXPECT_EQ(Shown("RecordTimes", "Text6"), kSaved);
+  EXPECT_TRUE(Exists("QXTIME/T0122.WAV"));
+  Click("RecordTimes", "NowExit");
+  EXPECT_EQ(Find<ListBox>("AutoTime", "List1").selected_text(), "01");
+  EXPECT_EQ(Find<ListBox>("AutoTime", "List2").selected_text(), "22");
+  EXPECT_THAT(Rows("AutoTime", "File1"), ElementsAre("T0122.WAV"));
+}
+
+TEST_F(TimeAnnouncements, ExistingOne_IsRecordedAnewOrHeardByDoubleClick) {
+  PutFile("QXTIME/T1205.WAV", "2500");
+  OpenAutoTime();
+  DoubleClick("AutoTime", "File1", "T1205.WAV");
+  EXPECT_EQ(Shown("RecordTimes", "Text2"), "T1205.WAV");
+  Click("RecordTimes", "NowExit");
+  Click("AutoTime", "Command3");
+  EXPECT_FALSE(Enabled("AutoTime", "Command1"));
+  DoubleClick("AutoTime", "File1", "T1205.WAV");
+  EXPECT_EQ(Shown("AutoTime", "Text1"), "Length = 2.5  [Press DONE to re-start]");
+  EXPECT_EQ(aired().back().id, "T1205");
+  Click("AutoTime", "Command4");
+  EXPECT_EQ(Find<MediaControl>("AutoTime", "MMControl1").Mode(), ChannelMode::kNotOpen);
+  EXPECT_TRUE(Enabled("AutoTime", "Command1"));
+}
+
+TEST_F(TimeAnnouncements, Erase_TakesTheRecording) {
+  PutFile("QXTIME/T1205.WAV", "2500");
+  OpenAutoTime();
+  DoubleClick("AutoTime", "File1", "T1205.WAV");
+  QueueAnswer("OK");
+  Click("RecordTimes", "CancelButton");
+  EXPECT_FALSE(Exists("QXTIME/T1205.WAV"));
+  EXPECT_TRUE(IsOpen("AutoTime"));
+}
+
+}  // namespace
+}  // namespace quixair::testing
