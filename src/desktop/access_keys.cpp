@@ -17,27 +17,29 @@ bool AccessKeys::eventFilter(QObject* watched, QEvent* event) {
   const auto& key = *static_cast<QKeyEvent*>(event);
   // The event visits every widget from the focus outwards; the one in focus is enough.
   if (key.modifiers() != Qt::AltModifier || watched != QApplication::focusWidget()) return false;
-  QAbstractButton* button = ButtonFor(key);
-  if (button == nullptr) return false;
+  const QList<QAbstractButton*> buttons = ButtonsFor(key);
+  if (buttons.isEmpty()) return false;
   event->accept();
   if (event->type() == QEvent::ShortcutOverride)
     return true;  // not a shortcut, then: it comes again as a key
+  const qsizetype focused = buttons.indexOf(qobject_cast<QAbstractButton*>(QApplication::focusWidget()));
+  QAbstractButton* button = buttons[(focused + 1) % buttons.size()];
   button->setFocus(Qt::ShortcutFocusReason);
-  button->click();
+  if (buttons.size() == 1) button->click();
   return true;
 }
 
-QAbstractButton* AccessKeys::ButtonFor(const QKeyEvent& key) const {
-  if (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr)
-    return nullptr;
+QList<QAbstractButton*> AccessKeys::ButtonsFor(const QKeyEvent& key) const {
+  if (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr) return {};
   const QMdiSubWindow* front = area_.activeSubWindow();
-  if (front == nullptr || front->window() != QApplication::activeWindow()) return nullptr;
+  if (front == nullptr || front->window() != QApplication::activeWindow()) return {};
   const QKeySequence wanted(QKeyCombination(Qt::ALT, static_cast<Qt::Key>(key.key())));
+  QList<QAbstractButton*> buttons;
   for (QAbstractButton* button : front->findChildren<QAbstractButton*>()) {
     const bool can_press = button->isVisible() && button->isEnabled();
-    if (can_press && QKeySequence::mnemonic(button->text()) == wanted) return button;
+    if (can_press && QKeySequence::mnemonic(button->text()) == wanted) buttons.push_back(button);
   }
-  return nullptr;
+  return buttons;
 }
 
 }  // namespace quixair::desktop

@@ -2,8 +2,10 @@
 
 // Access keys of the screen in front come before those of the menu bar: "&Pause" and "&PickList Playback"
 // share a letter, and ALT+P belongs to the operator at the air. The toolkit by itself would see two equals
-// and press neither.
+// and press neither. Where two buttons of one screen share a letter the key presses neither of them: it goes
+// from one to the next, and Enter presses.
 
+#include <QList>
 #include <QObject>
 
 class QAbstractButton;
@@ -19,8 +21,8 @@ class AccessKeys : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  /// The button of the screen in front that a person may press by this key now.
-  QAbstractButton* ButtonFor(const QKeyEvent& key) const;
+  /// The buttons of the screen in front that a person may press by this key now.
+  QList<QAbstractButton*> ButtonsFor(const QKeyEvent& key) const;
 
   QMdiArea& area_;
 };

@@ -1,7 +1,6 @@
 #include "desktop/binding.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
@@ -55,24 +54,13 @@ class ButtonBinding : public Binding {
  public:
   ButtonBinding(Button& button, QAbstractButton& widget)
       : Binding(button, widget), button_(button), widget_(widget) {
-    connect(&widget, &QAbstractButton::clicked, this, [this] {
-      LeaveEditor();
-      Act([this] { button_.Click(); });
-    });
+    connect(&widget, &QAbstractButton::clicked, this, [this] { Act([this] { button_.Click(); }); });
   }
 
  protected:
   void ShowText() override { widget_.setText(WithLineBreaks(button_.caption())); }
 
  private:
-  /// Pressed by its key, a button takes the focus as it does by the mouse: a box in the middle of typing is
-  /// left before the button acts.
-  void LeaveEditor() {
-    if (qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr) {
-      widget_.setFocus(Qt::ShortcutFocusReason);
-    }
-  }
-
   Button& button_;
   QAbstractButton& widget_;
 };

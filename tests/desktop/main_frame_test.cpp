@@ -170,6 +170,25 @@ TEST_F(OnAirWindow, AccessKeyOfTheScreen_ComesBeforeTheMenus) {
       << "ALT+P pauses, it opens no menu";
 }
 
+TEST_F(MainFrameTest, AccessKeyOfTwoButtons_GoesBetweenThemAndPressesNeither) {
+  StartPastSplash();
+  ChooseMenu("Spots");
+  Rest();
+  QTest::mouseClick(&Widget<QPushButton>("RecordSpot", "Command1"), Qt::LeftButton);
+  Rest();
+  QTest::keyClicks(&Widget<QLineEdit>("RecordSpot", "Text2"), QStringLiteral("77"));
+  frame_->activateWindow();
+  QStringList focused;
+  for (int press = 0; press < 3; ++press) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_R, Qt::AltModifier);
+    Rest();
+    focused.push_back(QApplication::focusWidget()->objectName());
+  }
+  EXPECT_NE(focused[0], focused[1]);
+  EXPECT_EQ(focused[0], focused[2]);
+  EXPECT_TRUE(Find<TextBox>("RecordSpot", "Text3").enabled()) << "neither restarted nor recorded";
+}
+
 TEST_F(OnAirWindow, EndRun_TakesTheWindowAway) {
   Press("Start");
   Press("EndRunCommand");
