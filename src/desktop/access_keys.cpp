@@ -5,8 +5,23 @@
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPushButton>
 
 namespace quixair::desktop {
+
+namespace {
+
+/// Enter presses the button in focus, as Space does.
+bool PressesFocused(const QKeyEvent& key) {
+  auto* button = qobject_cast<QPushButton*>(QApplication::focusWidget());
+  const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+  const bool plain = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  if (button == nullptr || !enter || !plain || key.isAutoRepeat()) return false;
+  button->click();
+  return true;
+}
+
+}  // namespace
 
 AccessKeys::AccessKeys(QMdiArea& area) : area_(area) {
   QCoreApplication::instance()->installEventFilter(this);
@@ -16,7 +31,9 @@ bool AccessKeys::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress) return false;
   const auto& key = *static_cast<QKeyEvent*>(event);
   // The event visits every widget from the focus outwards; the one in focus is enough.
-  if (key.modifiers() != Qt::AltModifier || watched != QApplication::focusWidget()) return false;
+  if (watched != QApplication::focusWidget()) return false;
+  if (event->type() == QEvent::KeyPress && PressesFocused(key)) return true;
+  if (key.modifiers() != Qt::AltModifier) return false;
   const QList<QAbstractButton*> buttons = ButtonsFor(key);
   if (buttons.isEmpty()) return false;
   event->accept();

@@ -187,6 +187,9 @@ TEST_F(MainFrameTest, AccessKeyOfTwoButtons_GoesBetweenThemAndPressesNeither) {
   EXPECT_NE(focused[0], focused[1]);
   EXPECT_EQ(focused[0], focused[2]);
   EXPECT_TRUE(Find<TextBox>("RecordSpot", "Text3").enabled()) << "neither restarted nor recorded";
+  Widget<QPushButton>("RecordSpot", "Command8").setFocus();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  EXPECT_FALSE(Find<TextBox>("RecordSpot", "Text3").enabled()) << "Enter presses the one in focus";
 }
 
 TEST_F(OnAirWindow, EndRun_TakesTheWindowAway) {

@@ -41,7 +41,7 @@ void EntryScreen::ConnectButtons() {
   Command5.on_click = [this] { ImportFile(); };
   Command6.on_click = [this] { ReRecordLast(); };
   Command7.on_click = [this] { CloseWindow(); };
-  Command8.on_click = [this] { Restart(); };
+  Command8.on_click = [this] { Load(); };
   Command9.on_click = [this] { RecordNow(); };
   OLE1.on_click = [this] { platform_.programs.Run("C:\\WINDOWS\\sndvol32.exe"); };
 }
@@ -102,16 +102,12 @@ void EntryScreen::Load() {
   File1.SetPath("c:\\qxdata");
   File1.Enable();
   Text1.SetText("Make your selection.  To re-record existing, choose from the list.");
+  Command1.SetFocus();
 }
 
 void EntryScreen::CloseWindow() {
   LeaveModes();
   Unload();
-}
-
-void EntryScreen::Restart() {
-  Load();
-  Command1.SetFocus();
 }
 
 void EntryScreen::LeaveModes() {
@@ -205,7 +201,7 @@ void EntryScreen::ReRecordLast() {
 
 void EntryScreen::RefuseLast(const std::string& why) {
   platform_.dialogs.MessageBox(why, box_style::kExclamation, "Can't Re-Record Last");
-  Restart();
+  Load();
 }
 
 void EntryScreen::TakeFromList() {
@@ -222,7 +218,7 @@ void EntryScreen::TakeFromList() {
 void EntryScreen::Take(const std::string& id) {
   if (ShowRecording(id) != RunTimeError::kFileNotFound) return;
   TellFault(RunTimeError::kFileNotFound, id, AbnormalFault::kReturns);  // it has gone since it was listed
-  Restart();
+  Load();
 }
 
 void EntryScreen::IdLeft() {
@@ -235,7 +231,7 @@ void EntryScreen::IdLeft() {
     if (answer == Answer::kOk) {
       data.id().SetFocus();
     } else {
-      Restart();
+      Load();
     }
     return;
   }

@@ -68,7 +68,6 @@ class EntryScreen : public Screen {
   void ConnectId();
   void ConnectList();
   void EnableChoices(bool enabled);
-  void Restart();
   void LeaveModes();
 
   // modes

@@ -10,7 +10,7 @@ namespace quixair {
 
 void EntryScreen::RecordNow() {
   if (mode_ == Mode::kAudition) {
-    Restart();
+    Load();
     return;
   }
   const bool id_not_left = data.id().enabled() && looked_up_ != data.id().text();
@@ -36,7 +36,7 @@ void EntryScreen::RecordNow() {
   } else if (mode_ == Mode::kImport) {
     GoToImport(id);
   } else if (mode_ == Mode::kEdit) {
-    Restart();
+    Load();
   } else {
     GoToCapture(values);
   }

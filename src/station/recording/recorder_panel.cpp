@@ -142,6 +142,7 @@ void RecorderPanel::ShowFormat() {
 void RecorderPanel::ShowProgress() {
   SecondsRecorded.SetCaption(ShortestSeconds(MMWaveRecorderX.Position()));
   Trouble.SetCaption(MMWaveRecorderX.Trouble());
+  Trouble.Show(!Trouble.caption().empty());
 }
 
 void RecorderPanel::Audition() {
