@@ -4,7 +4,9 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QTimer>
 
 #include "desktop/station_text.h"
 #include "station/platform/event_gate.h"
@@ -56,6 +58,14 @@ Answer AnswerOf(int button, int style) {
                                                                                          : Answer::kCancel;
 }
 
+/// What is offered is the beginning of the answer: it is typed on, not over.
+void GoBehindText(const QInputDialog& box) {
+  auto* line = box.findChild<QLineEdit*>();
+  if (line == nullptr) return;
+  line->deselect();
+  line->end(false);
+}
+
 QComboBox* AddChoice(QFormLayout& form, const char* caption, const std::vector<int>& values, int chosen,
                      const char* unit) {
   auto* box = new QComboBox;
@@ -78,6 +88,7 @@ std::string QtDialogs::InputBox(std::string_view prompt, std::string_view title,
   box.setWindowTitle(ToQt(title));
   box.setLabelText(ToQt(prompt));
   box.setTextValue(ToQt(initial));
+  QTimer::singleShot(0, &box, [&box] { GoBehindText(box); });
   return Run(box) == QDialog::Accepted ? FromQt(box.textValue()) : std::string();
 }
 

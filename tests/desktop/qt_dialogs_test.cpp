@@ -4,8 +4,10 @@
 
 #include <QApplication>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTest>
 #include <QTimer>
 
 #include "station/platform/event_gate.h"
@@ -73,6 +75,13 @@ TEST_F(QtDialogsTest, InputBox_GivesWhatWasTyped_OrNothing) {
     box.accept();
   });
   EXPECT_EQ(dialogs_.InputBox("Prompt", "T", "first"), "\xC9t\xE9");
+  WhenOpen<QInputDialog>([](QInputDialog& box) {
+    QTimer::singleShot(0, &box, [&box] {
+      QTest::keyClicks(box.findChild<QLineEdit*>(), QStringLiteral("1"));
+      box.accept();
+    });
+  });
+  EXPECT_EQ(dialogs_.InputBox("Prompt", "T", "S"), "S1") << "typed on, not over";
   WhenOpen<QInputDialog>([](QInputDialog& box) { box.reject(); });
   EXPECT_EQ(dialogs_.InputBox("Prompt", "T", "first"), "");
 }
