@@ -42,8 +42,9 @@ int main(int argc, char** argv) {
                                  files, dialogs);
   desktop::SessionEntry session_start(configuration.parent_path() / "autostart",
                                       QCoreApplication::applicationFilePath().toStdString());
-  sound::SoundSystem sound;
-  sound::CaptureSystem capture(configuration / "recorder.conf");
+  sound::SdlDrivers drivers = sound::MakeSdlDrivers();
+  sound::SoundSystem sound({sound::SoundSystem::Drive::kDevice, std::move(drivers.output)});
+  sound::CaptureSystem capture(std::move(drivers.input), configuration / "recorder.conf");
   ScreenRegistry screens(StationScreens());
   const Platform platform{clock,    timers,        files,  sound,   capture, dialogs,
                           programs, session_start, random, screens, gate};

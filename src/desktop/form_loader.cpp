@@ -6,6 +6,7 @@
 #include "desktop/row_list.h"
 #include "desktop/station_text.h"
 #include "desktop/views/big_clock.h"
+#include "desktop/views/capture_meters.h"
 #include "desktop/views/fitted_text.h"
 #include "desktop/views/item_progress.h"
 #include "desktop/views/level_meters.h"
@@ -26,6 +27,7 @@ QWidget* MakeCustom(const QString& class_name, QWidget* parent) {
   if (class_name == QLatin1String("StateLamp")) return new StateLamp(parent);
   if (class_name == QLatin1String("ItemProgress")) return new ItemProgress(parent);
   if (class_name == QLatin1String("LevelMeters")) return new LevelMeters(parent);
+  if (class_name == QLatin1String("CaptureMeters")) return new CaptureMeters(parent);
   if (class_name == QLatin1String("StopSetPanel")) return new StopSetPanel(parent);
   if (class_name == QLatin1String("WarningBanner")) return new WarningBanner(parent);
   if (class_name == QLatin1String("StopSetRows")) return new StopSetRows(parent);

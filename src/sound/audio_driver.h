@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "sound/device_feed.h"
+#include "sound/input_driver.h"
 
 namespace quixair::sound {
 
@@ -39,8 +40,13 @@ class AudioDriver {
   virtual std::unique_ptr<AudioDevice> Open() = 0;
 };
 
-/// The real one. Its driver list is pinned to the two that were found dependable; the library's own
-/// environment variables still overrule it.
-std::unique_ptr<AudioDriver> MakeSdlDriver();
+/// The real one, and beside it the machine's input. Both stand on one library, which each of their calls has to
+/// itself; when the output looks for a better sound system, the inputs that were open are gone. The driver list
+/// is pinned to the two that were found dependable; the library's own environment variables still overrule it.
+struct SdlDrivers {
+  std::unique_ptr<AudioDriver> output;
+  std::unique_ptr<InputDriver> input;
+};
+SdlDrivers MakeSdlDrivers();
 
 }  // namespace quixair::sound

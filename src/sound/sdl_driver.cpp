@@ -1,8 +1,12 @@
 #include <SDL.h>
 #include <dlfcn.h>
 
+#include <atomic>
 #include <chrono>
 #include <cstdlib>
+#include <memory>
+#include <mutex>
+#include <set>
 #include <string_view>
 
 #include "sound/audio_driver.h"
@@ -15,6 +19,7 @@ namespace {
 constexpr const char* kDrivers = "pulseaudio,alsa";
 // 43 ms. A quarter of it had gaps on an idle machine.
 constexpr Uint16 kBufferFrames = 2048;
+constexpr Uint16 kInputFrames = 1024;
 
 void SayNothing(const char* /*file*/, int /*line*/, const char* /*function*/, int /*error*/,
                 const char* /*format*/, ...) {}
@@ -34,13 +39,26 @@ void HushSoundCardLibrary() {
 /// asks for one buffer only, and a machine that was busy for longer than that was heard: gaps of 70 ms.
 constexpr const char* kServerMilliseconds = "150";
 
+class SdlInput;
+
+/// The library is one for the whole process: opening and closing are done one at a time, and quitting it takes
+/// the inputs with it, whose numbers may then mean other devices.
+class SdlLibrary {
+ public:
+  std::mutex mutex;
+  std::set<SdlInput*> inputs;  // under the mutex
+};
+
 class SdlDevice : public AudioDevice {
  public:
+  explicit SdlDevice(std::shared_ptr<SdlLibrary> library) : library_(std::move(library)) {}
   ~SdlDevice() override {
+    const std::scoped_lock lock(library_->mutex);
     if (id_ != 0) SDL_CloseAudioDevice(id_);
   }
 
   bool Open() {
+    const std::scoped_lock lock(library_->mutex);
     SDL_AudioSpec wanted{};
     wanted.freq = kMixRate;
     wanted.format = AUDIO_F32SYS;
@@ -68,14 +86,83 @@ class SdlDevice : public AudioDevice {
         {frames, static_cast<std::size_t>(count) / sizeof(StereoFrame)}, std::chrono::steady_clock::now());
   }
 
+  std::shared_ptr<SdlLibrary> library_;
   SDL_AudioDeviceID id_ = 0;
   SDL_AudioSpec granted_{};
   DeviceFeed* feed_ = nullptr;  // set before the device starts
 };
 
+/// The system converts to the rate that is asked for: the library's own conversion drops samples.
+class SdlInput : public InputDevice {
+ public:
+  SdlInput(std::shared_ptr<SdlLibrary> library, InputSink& sink)
+      : library_(std::move(library)), sink_(sink) {}
+  ~SdlInput() override {
+    const std::scoped_lock lock(library_->mutex);
+    Close();
+  }
+
+  bool Open(int rate) {
+    const std::scoped_lock lock(library_->mutex);
+    if (SDL_WasInit(SDL_INIT_AUDIO) == 0) return false;
+    SDL_AudioSpec wanted{};
+    wanted.freq = rate;
+    wanted.format = AUDIO_F32SYS;
+    wanted.channels = 2;
+    wanted.samples = kInputFrames;
+    wanted.callback = &Take;
+    wanted.userdata = this;
+    const SDL_AudioDeviceID id = SDL_OpenAudioDevice(nullptr, 1, &wanted, nullptr, 0);
+    if (id == 0) return false;
+    id_ = id;
+    library_->inputs.insert(this);
+    SDL_PauseAudioDevice(id, 0);
+    return true;
+  }
+
+  /// Under the library's mutex.
+  void Close() {
+    if (const SDL_AudioDeviceID id = id_.exchange(0); id != 0) SDL_CloseAudioDevice(id);
+    library_->inputs.erase(this);
+  }
+
+  bool Connected() const override {
+    const SDL_AudioDeviceID id = id_;
+    return id != 0 && SDL_GetAudioDeviceStatus(id) != SDL_AUDIO_STOPPED;
+  }
+
+ private:
+  static void SDLCALL Take(void* self, Uint8* bytes, int count) {
+    auto* input = static_cast<SdlInput*>(self);
+    if (!input->Connected()) return;  // a dead device goes on with silence
+    const auto* frames = static_cast<const StereoFrame*>(static_cast<const void*>(bytes));
+    input->sink_.Take({frames, static_cast<std::size_t>(count) / sizeof(StereoFrame)});
+  }
+
+  std::shared_ptr<SdlLibrary> library_;
+  InputSink& sink_;
+  std::atomic<SDL_AudioDeviceID> id_ = 0;
+};
+
+class SdlInputDriver : public InputDriver {
+ public:
+  explicit SdlInputDriver(std::shared_ptr<SdlLibrary> library) : library_(std::move(library)) {}
+  std::unique_ptr<InputDevice> Open(int rate, InputSink& sink) override {
+    auto input = std::make_unique<SdlInput>(library_, sink);
+    if (!input->Open(rate)) return nullptr;
+    return input;
+  }
+
+ private:
+  std::shared_ptr<SdlLibrary> library_;
+};
+
 class SdlDriver : public AudioDriver {
  public:
+  explicit SdlDriver(std::shared_ptr<SdlLibrary> library) : library_(std::move(library)) {}
+
   bool Start() override {
+    const std::scoped_lock lock(library_->mutex);
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Quixair");
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_STREAM_NAME, "Program");
@@ -89,7 +176,11 @@ class SdlDriver : public AudioDriver {
     return true;
   }
 
-  void Stop() override { SDL_QuitSubSystem(SDL_INIT_AUDIO); }
+  void Stop() override {
+    const std::scoped_lock lock(library_->mutex);
+    while (!library_->inputs.empty()) (*library_->inputs.begin())->Close();
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+  }
 
   bool FirstChoice() const override { return DriverName() != "alsa"; }
   bool OneDeviceOnly() const override { return DriverName() == "alsa"; }
@@ -104,7 +195,7 @@ class SdlDriver : public AudioDriver {
   }
 
   std::unique_ptr<AudioDevice> Open() override {
-    auto device = std::make_unique<SdlDevice>();
+    auto device = std::make_unique<SdlDevice>(library_);
     if (!device->Open()) return nullptr;
     return device;
   }
@@ -114,12 +205,15 @@ class SdlDriver : public AudioDriver {
     const char* name = SDL_GetCurrentAudioDriver();
     return name == nullptr ? std::string_view() : std::string_view(name);
   }
+
+  std::shared_ptr<SdlLibrary> library_;
 };
 
 }  // namespace
 
-std::unique_ptr<AudioDriver> MakeSdlDriver() {
-  return std::make_unique<SdlDriver>();
+SdlDrivers MakeSdlDrivers() {
+  const auto library = std::make_shared<SdlLibrary>();
+  return {std::make_unique<SdlDriver>(library), std::make_unique<SdlInputDriver>(library)};
 }
 
 }  // namespace quixair::sound

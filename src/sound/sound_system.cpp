@@ -12,7 +12,7 @@ namespace {
 
 std::unique_ptr<AudioDriver> DriverOf(SoundSystem::Options& options) {
   if (options.drive == SoundSystem::Drive::kByHand) return nullptr;
-  return options.driver ? std::move(options.driver) : MakeSdlDriver();
+  return options.driver ? std::move(options.driver) : MakeSdlDrivers().output;
 }
 
 }  // namespace

@@ -8,23 +8,9 @@
 #include <vector>
 
 #include "desktop/views/air_view.h"
+#include "desktop/views/meter_bar.h"
 
 namespace quixair::desktop {
-
-/// One bar: rises at once, falls 24 dB a second.
-class MeterBar {
- public:
-  void Feed(float peak, double seconds);
-  double decibels() const { return decibels_; }
-  double held() const { return held_; }
-  bool at_rest() const;
-  static constexpr double kFloor = -48;
-
- private:
-  double decibels_ = kFloor;
-  double held_ = kFloor;
-  double held_for_ = 0;
-};
 
 class LevelMeters : public AirView {
  public:
