@@ -160,6 +160,10 @@ void RecordTimes::Load() {
   recorder.RecordBtn.SetFocus();
 }
 
+void RecordTimes::PrepareAgain(const ScreenOpening&) {
+  if (!recorder.MMWaveRecorderX.capturing()) Load();
+}
+
 void RecordTimes::CloseWindow() {
   if (recorder.MMWaveRecorderX.capturing()) recorder.Stop();
   Unload();

@@ -49,6 +49,8 @@ class RecordTimes : public Screen {
  public:
   explicit RecordTimes(const Platform& platform);
   void Load() override;
+  /// Another announcement was sent here while this stood open.
+  void PrepareAgain(const ScreenOpening& opening) override;
   void CloseWindow() override;
 
   TextBox Text2{*this, "Text2", TextBox::Use::kShow};  // the name of the file

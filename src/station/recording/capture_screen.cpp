@@ -40,6 +40,10 @@ void CaptureScreen::Load() {
   recorder.RecordBtn.SetFocus();
 }
 
+void CaptureScreen::PrepareAgain(const ScreenOpening&) {
+  if (!recorder.MMWaveRecorderX.capturing()) Load();
+}
+
 void CaptureScreen::CloseWindow() {
   if (recorder.MMWaveRecorderX.capturing()) recorder.Stop();
   Unload();

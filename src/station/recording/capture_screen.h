@@ -24,6 +24,8 @@ class CaptureScreen : public Screen {
  public:
   CaptureScreen(const Platform& platform, const CaptureKind& kind);
   void Load() override;
+  /// Another recording was sent here while this stood open: it is taken, unless a capture runs.
+  void PrepareAgain(const ScreenOpening& opening) override;
   void CloseWindow() override;
 
   RecordBoxes data;

@@ -54,6 +54,7 @@ void RecorderPanel::Connect() {
   MMWaveRecorderX.on_started = [this] {
     RecordBtn.Disable();
     StopBtn.Enable();
+    StopBtn.SetFocus();
   };
   MMWaveRecorderX.on_stopped = [this] {
     RecordBtn.Enable();
@@ -68,7 +69,11 @@ void RecorderPanel::Connect() {
 void RecorderPanel::Prepare() {
   Text6.SetText("Click 'Start' to Begin Recording.  Select Audio Format by Clicking 'Settings'.");
   StopBtn.Disable();
+  Timer1.SetEnabled(false);
+  PlayPos.SetCaption({});
+  MMControl1.Command("Close");
   MMControl1.Disable();
+  MMWaveRecorderX.SetFileName({});
   MMWaveRecorderX.LoadFormat();
   ShowFormat();
   MMWaveRecorderX.Listen();

@@ -156,6 +156,21 @@ TEST_F(CaptureScreens, WindowClosedInMidCapture_SavesWhatThereIs) {
   EXPECT_THAT(FileText("QXDATA/M5.DAT"), StartsWith("\"8.0\"\r\n"));
 }
 
+TEST_F(CaptureScreens, RecordSentToAnOpenCapture_IsTheOneThatIsRecorded) {
+  HandOver("RecordASong", "5");
+  Menu("Music");
+  Click("RecordASong", "Command1");
+  Type("RecordASong", "Text2", "6");
+  Leave("RecordASong", "Text2");
+  Click("RecordASong", "Command9");
+  EXPECT_EQ(Shown(kSong, "Text2"), "M6");
+  Click(kSong, "RecordBtn");
+  Advance(2s);
+  Click(kSong, "StopBtn");
+  EXPECT_THAT(captures_, ElementsAre("M6.WAV began", "M6.WAV 2000"));
+  EXPECT_THAT(FileText("QXDATA/M5.DAT"), StartsWith("\"[New]\""));
+}
+
 TEST_F(CaptureScreens, CancelErase_TakesBothFilesAfterTheQuestion) {
   HandOver("RecordASong", "5");
   Click(kSong, "RecordBtn");
