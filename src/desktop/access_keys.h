@@ -2,8 +2,8 @@
 
 // Access keys of the screen in front come before those of the menu bar: "&Pause" and "&PickList Playback"
 // share a letter, and ALT+P belongs to the operator at the air. The toolkit by itself would see two equals
-// and press neither. Where two buttons of one screen share a letter the key presses neither of them: it goes
-// from one to the next, and Enter presses.
+// and press neither. Where two buttons of one screen share a letter, those of the frame in focus come first;
+// of what is left the key presses none, it goes from one to the next, and Enter presses.
 
 #include <QList>
 #include <QObject>
@@ -11,6 +11,7 @@
 class QAbstractButton;
 class QKeyEvent;
 class QMdiArea;
+class QMdiSubWindow;
 
 namespace quixair::desktop {
 
@@ -21,6 +22,9 @@ class AccessKeys : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  /// The screen in front, when the operator's keys go to it; else none.
+  const QMdiSubWindow* Front() const;
+  bool PressByEnter(const QKeyEvent& key) const;
   /// The buttons of the screen in front that a person may press by this key now.
   QList<QAbstractButton*> ButtonsFor(const QKeyEvent& key) const;
 

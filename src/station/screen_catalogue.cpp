@@ -23,6 +23,7 @@
 #include "station/templates/play_template.h"
 #include "station/templates/remove_sat_spot.h"
 #include "station/templates/transfer_template.h"
+#include "station/utilities/erase_utility.h"
 
 namespace quixair {
 namespace {
@@ -45,6 +46,7 @@ ScreenRegistry::Catalogue StationScreens() {
       {"CustomInformation", Make<CustomInformation>},
       {"ErasePickCustom", Make<ErasePickCustom>},
       {"EraseSimSatCustom", Make<EraseSimSatCustom>},
+      {"EraseUtility", Make<EraseUtility>},
       {"ErrorLog", Make<ErrorLog>},
       {"ExportTemplate", Make<ExportTemplate>},
       {"frmAbout", Make<About>},

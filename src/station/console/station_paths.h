@@ -29,6 +29,7 @@ inline constexpr std::string_view kPickVerify = "C:\\QXAIR\\PIKVERLG.DTA";      
 inline constexpr std::string_view kPickRepeat = "C:\\QXAIR\\PICKREPEAT.DTA";    // 1 on, 0 off
 inline constexpr std::string_view kPauseAfterNext = "C:\\QXAIR\\RNDPNEXT.DTA";  // 1 on, 0 off
 inline constexpr std::string_view kSpotDateCheck = "C:\\QXAIR\\SPOTDRST.DTA";   // "1" on, "0" off
+inline constexpr std::string_view kAskBeforeErasing = "C:\\QXAIR\\DELASK.DTA";  // 1 on, 0 off
 inline constexpr std::string_view kOverlap = "C:\\QXAIR\\overlap.dta";
 inline constexpr std::string_view kPikMode = "C:\\QXAIR\\PIKMODE.DTA";
 inline constexpr std::string_view kPikName = "C:\\QXAIR\\PIKNAME.DTA";
@@ -54,6 +55,10 @@ inline std::string DataFile(std::string_view id) {
 /// <Drive>:\QXWAVE\<id><extension>
 inline std::string AudioFile(std::string_view drive, std::string_view id, std::string_view extension) {
   return std::string(drive) + ":\\QXWAVE\\" + std::string(id) + std::string(extension);
+}
+/// <Drive>:\QXWAVE
+inline std::string AudioFolder(std::string_view drive) {
+  return std::string(drive) + ":\\QXWAVE";
 }
 inline std::string TemplateFile(std::string_view name) {
   return std::string(kTemplateFolder) + '\\' + std::string(name);

@@ -90,7 +90,10 @@ Status DiskFiles::Delete(std::string_view path) {
   if (!place.ok()) return place.error();
   const auto real = Existing(place.value());
   if (!real.ok()) return real.error();
+  const FolderIndex* index = CurrentIndex(place.value().folder);
+  const bool index_held = index != nullptr && index->named;
   if (::unlink(real.value().c_str()) != 0) return host_file::LastError();
+  if (index_held) Forget(place.value().folder, place.value().name);
   return {};
 }
 
@@ -282,6 +285,16 @@ void DiskFiles::Remember(const std::string& folder, const std::string& name, boo
   held->second.modified = std::filesystem::last_write_time(folder, error);
   held->second.real_names.emplace(UpperCased(FromUtf8(name)), name);
   held->second.ordered = false;  // where the folder put it is not known
+}
+
+/// Else erasing a thousand recordings would list their folder anew for each.
+void DiskFiles::Forget(const std::string& folder, const std::string& name) {
+  const auto held = indexes_.find(folder);
+  if (held == indexes_.end()) return;
+  std::error_code error;
+  held->second.modified = std::filesystem::last_write_time(folder, error);
+  held->second.real_names.erase(UpperCased(FromUtf8(name)));
+  held->second.ordered = false;
 }
 
 }  // namespace quixair

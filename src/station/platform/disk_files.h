@@ -69,6 +69,8 @@ class DiskFiles : public Files {
   const FolderIndex* OrderedIndex(const std::string& folder);
   const FolderIndex* NamedIndex(const std::string& folder);
   void Remember(const std::string& folder, const std::string& name, bool folder_was_current);
+  /// A file of ours is gone from a folder whose index was current.
+  void Forget(const std::string& folder, const std::string& name);
   using PutFunction = Status (*)(const std::string& host_path, std::string_view bytes, bool flush);
   Status Put(std::string_view path, std::string_view bytes, PutFunction put, Durability durability);
 

@@ -6,56 +6,29 @@
 // Save alone. The screen holds the controls, its mode and its loading; TemplateEditor is what the operator
 // does.
 
-#include <array>
 #include <memory>
-#include <string>
 
-#include "station/platform/screen.h"
-#include "station/templates/editor_library.h"
+#include "station/templates/event_list_screen.h"
 
 namespace quixair {
 
 class TemplateEditor;
 
-class BuildTemplate1 : public Screen {
+class BuildTemplate1 : public EventListScreen {
  public:
   explicit BuildTemplate1(const Platform& platform);
   ~BuildTemplate1() override;
   void Load() override;
   void CloseWindow() override;
 
-  // what is edited
-  Label Label2{*this, "Label2"};  // the template in use, or the mode
-  Label EntriesLabel{*this, "EntriesLabel", "Template Entries:"};
-  ListBox List2{*this, "List2"};                       // the entries
-  TextBox Text1{*this, "Text1", TextBox::Use::kShow};  // totals
-  TextBox Text2{*this, "Text2", TextBox::Use::kShow};  // what just happened
-  TextBox Text3{*this, "Text3", TextBox::Use::kShow};  // hints and counts
-
-  // the library
-  Label FilesLabel{*this, "FilesLabel"};      // "Existing Files:  [Spots]"
-  Label ColumnsLabel{*this, "ColumnsLabel"};  // heading of the columns
-  ListBox List1{*this, "List1"};              // music
-  ListBox List3{*this, "List3"};              // spots
-  ListBox List4{*this, "List4"};              // liners
-  Button Command10{*this, "Command10", "&Spots"};
-  Button Command11{*this, "Command11", "&Music"};
-  Button Command12{*this, "Command12", "&Liners"};
-
   // operations
   Button Command1{*this, "Command1", "Sa&ve "};
   Button Command2{*this, "Command2", "&Insert"};
-  Button Command3{*this, "Command3", "&Cut"};
   Button Command4{*this, "Command4", " &Pause"};
   Button Command5{*this, "Command5", "&Time"};
-  Button Command6{*this, "Command6", "Ma&nual    Entry"};
-  Button Command15{*this, "Command15", "Hide Ma&nual"};
   Button Command7{*this, "Command7", "Clear         &File"};
-  Button Command9{*this, "Command9", "&Quit"};
   Button Command13{*this, "Command13", "&Range      Total"};
   Button localbreak{*this, "localbreak", "&Local      Break"};
-  Label Label7{*this, "Label7", "Manual:"};
-  TextBox Text8{*this, "Text8"};  // the manual box
 
   // local break
   Frame Frame2{*this, "Frame2", "Local Break Setup:"};
@@ -79,19 +52,14 @@ class BuildTemplate1 : public Screen {
   Button Command14{Frame1, "Command14", "&Refresh"};
   Button Command8{Frame1, "Command8", "&Hide"};
 
-  EditorList music;
-  EditorList spots;
-  EditorList liners;
-
-  void ShowLibrary(ListBox& list);
-  /// The library list that is showing.
-  ListBox& shown_library();
+ protected:
+  Step LoadMore() override;
+  void Loaded() override;
 
  private:
-  bool LoadLibrary();
-  bool LoadKind(EditorList& list, RecordingKind kind, const char* word, const char* title_word);
-  bool SetUpMode();
-  void FillLists();
+  /// False when a kind has too few recordings to begin with, which has been told.
+  bool LibraryIsLargeEnough();
+  void SetUpMode();
 
   std::unique_ptr<TemplateEditor> editor_;
 };

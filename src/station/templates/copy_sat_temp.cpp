@@ -62,7 +62,8 @@ Status CopySatTemp::Copy(const std::string& source, const std::string& destinati
         Repaint();
         return true;
       }));
-  return platform_.files.Write(station_paths::TemplateFile(destination), FormatRecords(records));
+  return platform_.files.Write(station_paths::TemplateFile(destination), FormatRecords(records),
+                               Durability::kFlushed);
 }
 
 }  // namespace quixair

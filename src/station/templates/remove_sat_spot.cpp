@@ -65,7 +65,7 @@ Status RemoveSatSpot::Rewrite(const std::string& name) {
         if (!spot) ++kept;
         return !spot;
       }));
-  return platform_.files.Write(path, FormatRecords(records));
+  return platform_.files.Write(path, FormatRecords(records), Durability::kFlushed);
 }
 
 }  // namespace quixair

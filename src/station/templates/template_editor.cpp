@@ -13,9 +13,6 @@ namespace quixair {
 namespace {
 
 constexpr int kRowsAboveOpen = 6;
-constexpr int kRowsAboveCut = 5;
-constexpr const char* kBanner = "Quixair Template Editor";
-constexpr const char* kAdded = "Your selection has been added...";
 
 std::string FourDigits(int number) {
   std::array<char, 16> text{};
@@ -25,45 +22,27 @@ std::string FourDigits(int number) {
 
 }  // namespace
 
-TemplateEditor::TemplateEditor(BuildTemplate1& screen) : screen_(screen) {
-  ConnectLists();
+TemplateEditor::TemplateEditor(BuildTemplate1& screen) : EventListEditor(screen), screen_(screen) {
   ConnectOperations();
   ConnectLocalBreak();
   ConnectRange();
 }
 
-void TemplateEditor::ConnectLists() {
-  const auto connect = [this](ListBox& list, const EditorList& library) {
-    list.on_click = [this] {
-      screen_.Text3.SetText("Double Click or Press Enter to add a selection to the list above...");
-    };
-    list.on_double_click = [this, &list, &library] { AddFromList(library, list.selected_index()); };
-    list.on_enter = list.on_double_click;
-  };
-  connect(screen_.List1, screen_.music);
-  connect(screen_.List3, screen_.spots);
-  connect(screen_.List4, screen_.liners);
-  screen_.List2.on_double_click = [this] { EntryDoubleClicked(); };
-  screen_.List2.on_enter = [this] { EntryDoubleClicked(); };
-}
-
 void TemplateEditor::ConnectOperations() {
   screen_.Command1.on_click = [this] { SaveOrPlay(); };
   screen_.Command2.on_click = [this] { Insert(); };
-  screen_.Command3.on_click = [this] { Cut(); };
   screen_.Command4.on_click = [this] { AddCode(kPauseEntry, "A PAUSE replaced the >>OPEN<<..."); };
   screen_.Command5.on_click = [this] { AddCode(kTimeEntry, "A TIME replaced the >>OPEN<<..."); };
-  screen_.Command6.on_click = [this] { ShowManual(true); };
-  screen_.Command15.on_click = [this] { ShowManual(false); };
   screen_.Command7.on_click = [this] { Clear(); };
-  screen_.Command9.on_click = [this] { Quit(); };
-  screen_.Text8.on_enter = [this] { AddManual(); };
 }
 
 void TemplateEditor::ConnectLocalBreak() {
   screen_.localbreak.on_click = [this] { OpenLocalBreak(); };
   screen_.Command16.on_click = [this] { AcceptLocalBreak(); };
-  screen_.Command17.on_click = [this] { screen_.Frame2.Hide(); };
+  screen_.Command17.on_click = [this] {
+    screen_.Frame2.Hide();
+    screen_.shown_library().SetFocus();
+  };
   screen_.List7.on_click = [this] { ComposeTime(); };
   screen_.List8.on_click = [this] { ComposeTime(); };
   screen_.Option1.on_click = [this] { ComposeTime(); };
@@ -74,10 +53,12 @@ void TemplateEditor::ConnectRange() {
   screen_.Command13.on_click = [this] {
     screen_.Frame1.Show();
     screen_.Command13.Disable();
+    screen_.List5.SetFocus();  // else it would go to the button beside, which clears the file
   };
   screen_.Command8.on_click = [this] {
     screen_.Frame1.Hide();
     screen_.Command13.Enable();
+    screen_.shown_library().SetFocus();
   };
   screen_.Command14.on_click = [this] { ShowRange(true); };
   for (ListBox* list : {&screen_.List5, &screen_.List6}) {
@@ -85,49 +66,6 @@ void TemplateEditor::ConnectRange() {
     list->on_click = [this, is_from] { ShowRange(is_from); };
     list->on_enter = list->on_click;
   }
-}
-
-void TemplateEditor::Prompt(const std::string& text) {
-  screen_.Text3.SetBackColor(kYellow);
-  screen_.Text3.SetText(text);
-}
-
-void TemplateEditor::EndPrompt() {
-  screen_.Text3.SetBackColor(std::nullopt);
-  screen_.Text3.SetText(kBanner);
-}
-
-void TemplateEditor::Warn(const char* title, const char* text) {
-  screen_.platform().dialogs.MessageBox(text, box_style::kExclamation, title);
-}
-
-void TemplateEditor::ShowRows() {
-  screen_.List2.SetRows(entries_.Rows());
-}
-
-void TemplateEditor::ShowTotals() {
-  screen_.Text1.SetText(TotalTimeText(entries_.TotalSeconds()));
-}
-
-/// Full: the new event is about to take the place of the last one.
-bool TemplateEditor::TellLimit() {
-  if (entries_.EntryCount() < TemplateEntries::kMost) return false;
-  screen_.platform().dialogs.MessageBox("The system is configured to accept 1999 maximum entries",
-                                        box_style::kCritical, "Maximum Entries Reached");
-  return true;
-}
-
-void TemplateEditor::AddEntry(std::string entry, double seconds) {
-  const bool full = TellLimit();
-  entries_.Append(std::move(entry));
-  entries_.AddSeconds(seconds);
-  if (full) {
-    ShowRows();
-  } else {
-    screen_.List2.AddRow(entries_.Row(entries_.EntryCount()));
-  }
-  screen_.List2.SetTopRow(entries_.EntryCount() - 1);
-  screen_.Text3.SetText("Total Entries = " + std::to_string(entries_.EntryCount()));
 }
 
 void TemplateEditor::FillOpen(std::string entry, double seconds, const std::string& said) {
@@ -142,24 +80,21 @@ void TemplateEditor::FillOpen(std::string entry, double seconds, const std::stri
   EndPrompt();
 }
 
+std::string TemplateEditor::OpenFilled() const {
+  return "The >>OPEN<< at " + std::to_string(entries_.OpenPosition()) + " has been filled...";
+}
+
 void TemplateEditor::AddFromList(const EditorList& library, int row) {
-  Changed = 1;
-  if (row < 0) {
-    screen_.Text3.SetText("You Pressed <Enter> to Add an Entry, but Haven't Selected an Entry Yet !");
-    return;
-  }
-  const EditorRecording& recording = library.recordings.at(static_cast<std::size_t>(row));
-  std::string entry =
-      RecordingEntry(recording.RecordingId, recording.first_label, recording.second_label, recording.Length);
-  const double seconds = NumericValue(recording.Length);
+  Changed = 1;  // by the lists alone, and before anything is looked at
+  EventListEditor::AddFromList(library, row);
+}
+
+void TemplateEditor::Take(std::string entry, double seconds) {
   if (Inserting == 1) {
-    FillOpen(std::move(entry), seconds,
-             "The >>OPEN<< at " + std::to_string(entries_.OpenPosition()) + " has been filled...");
+    FillOpen(std::move(entry), seconds, OpenFilled());
   } else {
-    AddEntry(std::move(entry), seconds);
-    screen_.Text2.SetText(kAdded);
+    EventListEditor::Take(std::move(entry), seconds);
   }
-  ShowTotals();
 }
 
 void TemplateEditor::AddCode(std::string_view code, const std::string& said_when_filling) {
@@ -169,46 +104,6 @@ void TemplateEditor::AddCode(std::string_view code, const std::string& said_when
   }
   AddEntry(std::string(code), 0);
   screen_.shown_library().SetFocus();
-}
-
-void TemplateEditor::ShowManual(bool show) {
-  screen_.Label7.Show(show);
-  screen_.Text8.Show(show);
-  screen_.Command6.Show(!show);
-  screen_.Command15.Show(show);
-  if (!show) {
-    EndPrompt();
-    return;
-  }
-  screen_.Text3.SetText("Enter a Valid Spot, Music, or Liner I.D. in the Manual Box - Then Press Enter...");
-  screen_.Text8.SetFocus();
-}
-
-/// The id in the data file, not the typed one, becomes the event.
-void TemplateEditor::AddManual() {
-  const std::string typed = screen_.Text8.text();
-  if (typed.empty()) return;
-  Files& files = screen_.platform().files;
-  screen_.Text8.SetText("");
-  const Result<std::string> content = files.Read(station_paths::DataFile(typed));
-  if (content.error() == RunTimeError::kFileNotFound || content.error() == RunTimeError::kBadFileName) return;
-  if (!content.ok()) {
-    screen_.platform().dialogs.MessageBox("The above error was encountered. \nClick OK to attempt to resume.",
-                                          box_style::kExclamation,
-                                          "Unexpected Error " + std::to_string(content.status().number()));
-    return;
-  }
-  const std::vector<std::string> fields = ReadLeadingFields(files, typed, 5);
-  std::string entry = RecordingEntry(fields[1], fields[3], fields[4], fields[0]);
-  const double seconds = NumericValue(fields[0]);
-  if (Inserting == 1) {
-    FillOpen(std::move(entry), seconds,
-             "The >>OPEN<< at " + std::to_string(entries_.OpenPosition()) + " has been filled...");
-  } else {
-    AddEntry(std::move(entry), seconds);
-    screen_.Text2.SetText(kAdded);
-  }
-  ShowTotals();
 }
 
 /// The lists are not emptied first: each press of the button adds all the rows again, as it always has.
@@ -237,15 +132,14 @@ void TemplateEditor::AcceptLocalBreak() {
   }
   const std::string time = screen_.Text9.text();
   if (Inserting == 1) {
-    FillOpen(LocalBreakFilling(time), 0,
-             "The >>OPEN<< at " + std::to_string(entries_.OpenPosition()) + " has been filled...");
+    FillOpen(LocalBreakFilling(time), 0, OpenFilled());
     return;
   }
   AddEntry(LocalBreakEntry(time), 0);
   screen_.Text3.SetBackColor(std::nullopt);
   screen_.Text3.SetText("Local Break Added at Position " + std::to_string(entries_.EntryCount()) + ": " +
                         time + " ****LOCAL BREAK***");
-  screen_.Text2.SetText(kAdded);
+  screen_.Text2.SetText("Your selection has been added...");
 }
 
 void TemplateEditor::Insert() {
@@ -267,30 +161,18 @@ void TemplateEditor::Insert() {
 void TemplateEditor::Cut() {
   if (Inserting == 1) {
     Warn("Can't cut while Inserting", "Can't cut until you replace the >>OPEN<< event ");
-    return;
+  } else {
+    EventListEditor::Cut();
   }
-  if (entries_.EntryCount() < 1) {
-    Warn("Too Few Entries",
-         "Too  few entries to do cutting!  You can only \ncut previously selected entries in the top box...");
-    return;
-  }
-  CutArmed = 1;
-  Prompt("Double-Click An Item from the Entries List To Cut, <Esc> to cancel request");
-  screen_.List1.Disable();
-  screen_.List2.SetFocus();
 }
 
 void TemplateEditor::EntryDoubleClicked() {
   if (OpenPlaced == 1) {
     Warn("Wrong List", "You can't select a file from this list");
-    return;
-  }
-  const int row = screen_.List2.selected_index();
-  if (row < 0) return;  // and a cut stays armed
-  if (Inserting == 1) {
+  } else if (Inserting == 0) {
+    EventListEditor::EntryDoubleClicked();
+  } else if (const int row = screen_.List2.selected_index(); row >= 0) {
     PlaceOpen(row);
-  } else if (CutArmed == 1) {
-    CutRow(row);
   }
 }
 
@@ -302,18 +184,6 @@ void TemplateEditor::PlaceOpen(int row) {
   ShowRows();
   if (row + 1 > kRowsAboveOpen) screen_.List2.SetTopRow(row + 1 - kRowsAboveOpen);
   screen_.List1.Enable();
-}
-
-void TemplateEditor::CutRow(int row) {
-  const double seconds = entries_.Cut(row + 1);
-  ShowTotals();
-  ShowRows();
-  if (row > kRowsAboveCut) screen_.List2.SetTopRow(row - kRowsAboveCut);
-  CutArmed = 0;
-  screen_.List1.Enable();
-  EndPrompt();
-  screen_.Text3.SetText(ShortestSeconds(static_cast<long>(seconds * 1000 + 0.5)) + " Seconds cut");
-  screen_.Text2.SetText("Item " + std::to_string(row + 1) + " was successfully removed...");
 }
 
 void TemplateEditor::Clear() {
@@ -329,14 +199,9 @@ void TemplateEditor::Clear() {
           kStyle, "Last Chance!") != Answer::kOk) {
     return;
   }
-  entries_.Clear();
   Inserting = 0;
   OpenPlaced = 0;
-  CutArmed = 0;
-  screen_.List1.Enable();
-  screen_.List2.Clear();
-  EndPrompt();
-  screen_.shown_library().SetFocus();
+  ClearEntries();
 }
 
 /// Event numbers are compared as texts, so that "100" comes before "99": known, and kept.

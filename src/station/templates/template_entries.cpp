@@ -12,6 +12,7 @@ namespace {
 constexpr std::size_t kIdWidth = 9;
 constexpr std::size_t kLabelWidth = 21;
 constexpr std::size_t kLengthWidth = 7;
+constexpr std::size_t kLengthWidthBeforeDrive = 10;
 constexpr std::size_t kLengthColumn = 51;  // counted from 0
 constexpr std::size_t kLengthRead = 6;
 constexpr std::size_t kFileIdWidth = 8;
@@ -45,12 +46,23 @@ std::string RecordingEntry(std::string_view id, std::string_view first_label, st
          Padded(length, kLengthWidth);
 }
 
+std::string RecordingEntryWithDrive(std::string_view id, std::string_view first_label,
+                                    std::string_view second_label, std::string_view length,
+                                    std::string_view drive) {
+  return Padded(id, kIdWidth) + Padded(first_label, kLabelWidth) + Padded(second_label, kLabelWidth) +
+         Padded(length, kLengthWidthBeforeDrive) + Padded(drive, 1);
+}
+
 std::string LocalBreakEntry(std::string_view time) {
   return std::string(time) + std::string(22, ' ') + "****LOCAL BREAK***";
 }
 
 std::string LocalBreakFilling(std::string_view time) {
   return std::string(time) + std::string(24, ' ') + "****LOCAL BREAK***";
+}
+
+std::string EntryId(std::string_view entry) {
+  return std::string(TrimmedRight(Columns(entry, 0, kFileIdWidth)));
 }
 
 double EntrySeconds(std::string_view entry) {
@@ -114,8 +126,7 @@ std::vector<TemplateEvent> TemplateEntries::Events() const {
   std::vector<TemplateEvent> events;
   events.reserve(entries_.size());
   for (const std::string& entry : entries_) {
-    events.push_back({std::string(TrimmedRight(Columns(entry, 0, kFileIdWidth))),
-                      std::string(TrimmedRight(Columns(entry, kTitleColumn, kTitleWidth)))});
+    events.push_back({EntryId(entry), std::string(TrimmedRight(Columns(entry, kTitleColumn, kTitleWidth)))});
   }
   return events;
 }

@@ -16,12 +16,19 @@ namespace quixair {
 /// The stored text of a recording.
 std::string RecordingEntry(std::string_view id, std::string_view first_label, std::string_view second_label,
                            std::string_view length);
+/// The same where the drive of the audio file is of interest: the length is 10 wide, and the drive's
+/// letter stands last.
+std::string RecordingEntryWithDrive(std::string_view id, std::string_view first_label,
+                                    std::string_view second_label, std::string_view length,
+                                    std::string_view drive);
 inline constexpr std::string_view kPauseEntry = ">PAUSE<";
 inline constexpr std::string_view kTimeEntry = ">TIME<";
 /// A local break's text, `time` as "06:30 PM". One that fills an open place carries its mark two places
 /// further to the right, and the file then cuts it: stations have such files, and both forms are kept.
 std::string LocalBreakEntry(std::string_view time);
 std::string LocalBreakFilling(std::string_view time);
+/// The id that an entry begins with.
+std::string EntryId(std::string_view entry);
 /// The seconds that an entry adds, 0 for what is no recording.
 double EntrySeconds(std::string_view entry);
 

@@ -1,5 +1,7 @@
 // How the template editor reads and writes: the template's file with its faults, saving, playing, quitting.
 
+#include <utility>
+
 #include "station/console/settings_files.h"
 #include "station/console/station_paths.h"
 #include "station/library/recording_file.h"
@@ -37,41 +39,56 @@ void TemplateEditor::SetMode(int pik_mode) {
   }
 }
 
-bool TemplateEditor::LoadTemplate() {
+bool TemplateEditor::OpenTemplate() {
+  if (std::exchange(template_read_, true)) return true;
   const Platform& platform = screen_.platform();
   TemplateName = ReadSetting(platform.files, station_paths::kPikName).value_or(std::string());
   screen_.Label2.SetCaption("Template in Use: " + TemplateName);
   const Result<std::string> content = platform.files.Read(station_paths::TemplateFile(TemplateName));
-  if (!content.ok()) {
-    const bool missing = content.error() == RunTimeError::kFileNotFound;
-    const std::string title =
-        missing ? std::string("File Not Found") : "Error: " + std::to_string(content.status().number());
-    const std::string text =
-        missing ? "The template you specified " + TemplateName +
-                      " does not currently exist.\nIf you choose 'OK', a new file with this name "
-                      "will be created."
-                : std::string("Click 'OK' to try to continue, or cancel to abort");
-    return platform.dialogs.MessageBox(text, box_style::kOkCancel + box_style::kExclamation, title) ==
-           Answer::kOk;
-  }
-  std::vector<TemplateEvent> events = ReadableEvents(content.value());
-  const bool terminated = !events.empty() && events.back() == TemplateEvent{};
+  if (!content.ok()) return TellUnreadable(content.status());
+  events_ = ReadableEvents(content.value());
+  const bool terminated = !events_.empty() && events_.back() == TemplateEvent{};
   if (StopsInMidRecord(content.value()) || !terminated) {
     platform.dialogs.MessageBox(
-        "This template may contain data abnormalities.  Loading will\ncontinue, but please note that you may "
-        "have "
-        "difficulty using\nit later.  Make sure there are no empty events in " +
+        "This template may contain data abnormalities.  Loading will\n"
+        "continue, but please note that you may have difficulty using\n"
+        "it later.  Make sure there are no empty events in " +
             TemplateName,
         box_style::kCritical, "Possible Data Corruption");
   }
-  if (terminated) events.pop_back();
-  if (events.size() > TemplateEntries::kMost) events.resize(TemplateEntries::kMost);
-  for (const TemplateEvent& event : events) AddTemplateEvent(event);
+  if (terminated) events_.pop_back();
+  if (events_.size() > TemplateEntries::kMost) events_.resize(TemplateEntries::kMost);
+  return true;
+}
+
+bool TemplateEditor::TellUnreadable(const Status& fault) {
+  const bool missing = fault.error() == RunTimeError::kFileNotFound;
+  const std::string title =
+      missing ? std::string("File Not Found") : "Error: " + std::to_string(fault.number());
+  const std::string text = missing ? "The template you specified " + TemplateName +
+                                         " does not currently exist.\n"
+                                         "If you choose 'OK', a new file with this name will be created."
+                                   : std::string("Click 'OK' to try to continue, or cancel to abort");
+  return screen_.platform().dialogs.MessageBox(text, box_style::kOkCancel + box_style::kExclamation, title) ==
+         Answer::kOk;
+}
+
+bool TemplateEditor::LoadEvent() {
+  if (events_loaded_ < events_.size()) {
+    AddTemplateEvent(events_[events_loaded_++]);
+    screen_.Text3.SetText("Total Entries = " + std::to_string(entries_.EntryCount()));
+    screen_.Text2.SetText("Adding your selection...");
+    return true;
+  }
   ShowRows();
   screen_.List2.SetTopRow(entries_.EntryCount() - 1);
-  screen_.Text3.SetText("Total Entries = " + std::to_string(entries_.EntryCount()));
   ShowTotals();
-  return true;
+  return false;
+}
+
+void TemplateEditor::SetLoaded() {
+  loaded_ = true;
+  if (screen_.Text8.visible()) screen_.Text8.SetFocus();
 }
 
 void TemplateEditor::AddTemplateEvent(const TemplateEvent& event) {
@@ -109,9 +126,9 @@ void TemplateEditor::AddTemplateEvent(const TemplateEvent& event) {
 /// One box for each, with no way to stop them: the operator is to see what is gone.
 void TemplateEditor::TellMissingData(const std::string& id) {
   screen_.platform().dialogs.MessageBox(
-      "A file contained in this template may have been deleted.\nPlease review the template to make sure all "
-      "entries "
-      "are still\nvalid.  [Look in list for Entries containing 'EMPTY!']",
+      "A file contained in this template may have been deleted.\n"
+      "Please review the template to make sure all entries are still\n"
+      "valid.  [Look in list for Entries containing 'EMPTY!']",
       box_style::kOk + box_style::kCritical, id + ".DAT is Missing");
 }
 

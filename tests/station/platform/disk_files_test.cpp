@@ -206,6 +206,19 @@ TEST_F(DiskFilesTest, Errors_CarryTheNumbersThatOperatorsKnow) {
   EXPECT_FALSE(fs::exists(folder_.path() / "QXAIR/NONE.DAT"));
 }
 
+TEST_F(DiskFilesTest, Deletion_IsKnownToLookUpsInEitherCase) {
+  for (const char* name : {"QXDATA/a.dat", "QXDATA/b.dat", "QXDATA/C.DAT"}) PutHost(name, "x");
+  fs::last_write_time(Host("QXDATA"), fs::file_time_type::clock::now() - std::chrono::hours(1));
+  EXPECT_TRUE(files_.Exists("C:\\QXDATA\\B.DAT"));
+  EXPECT_TRUE(files_.Delete("C:\\QXDATA\\B.DAT").ok());
+  EXPECT_FALSE(fs::exists(Host("QXDATA/b.dat")));
+  EXPECT_FALSE(files_.Exists("C:\\QXDATA\\B.DAT"));
+  EXPECT_TRUE(files_.Exists("C:\\QXDATA\\A.DAT"));
+  EXPECT_EQ(files_.List("C:\\QXDATA", "*.DAT").value_or({}).size(), 2U);
+  PutHost("QXDATA/b.dat", "made by another program");
+  EXPECT_TRUE(files_.Exists("C:\\QXDATA\\B.DAT"));
+}
+
 TEST_F(DiskFilesTest, NotAllowed_Is70) {
   if (::geteuid() == 0) GTEST_SKIP() << "nothing is forbidden to root";
   PutHost("QXAIR/LOCKED.DTA", "x");

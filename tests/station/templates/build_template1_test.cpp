@@ -109,6 +109,35 @@ TEST_F(TemplateEditorScreen, SmallLibrary_ClosesTheScreen) {
   EXPECT_FALSE(IsOpen(kEditor));
 }
 
+TEST_F(TemplateEditorScreen, LargeLibrary_LoadsInPortionsWhileTheRestWaits) {
+  AddLibrary(300, 2, 2);
+  PutTemplate("A.TPP", {"M0001", "M0002"});
+  OpenEditor("2");
+  EXPECT_EQ(Shown(kEditor, "Text3"), "250 Music Files Present");
+  EXPECT_TRUE(Rows(kEditor, "List2").empty());
+  for (const char* waiting : {"Command1", "Command2", "Command6", "Command11", "localbreak"})
+    EXPECT_FALSE(Enabled(waiting)) << waiting;
+  EXPECT_FALSE(Find<ListBox>(kEditor, "List3").enabled());
+  EXPECT_TRUE(Enabled("Command9"));
+  Advance(1s);
+  EXPECT_EQ(Shown(kEditor, "Text3"),
+            "3 Spot Files Present / 300 Music Files Present / 4 Liner Files Present...");
+  EXPECT_EQ(Ids(), "M0001 M0002 ");
+  EXPECT_EQ(Rows(kEditor, "List1").size(), 300U);
+  EXPECT_TRUE(Enabled("Command1"));
+  EXPECT_TRUE(Enabled("localbreak"));
+  EXPECT_FALSE(Enabled("Command4")) << "what its mode does not offer stays off";
+}
+
+TEST_F(TemplateEditorScreen, QuitWhileLoading_ClosesAtOnce) {
+  AddLibrary(300, 2, 2);
+  OpenWith({"M0001"});
+  Click(kEditor, "Command9");
+  EXPECT_FALSE(IsOpen(kEditor));
+  Advance(1s);
+  EXPECT_TRUE(boxes().empty());
+}
+
 TEST_F(TemplateEditorScreen, TemplateBuiltAndSaved_LoadsAndSavesUnchanged) {
   QueueAnswer("OK");
   OpenEditor("0", "NEW.TPP");
@@ -234,6 +263,12 @@ TEST_F(TemplateEditorScreen, ManualEntry_TakesTheIdOfTheDataFile) {
     EXPECT_EQ(box.text(), "");
   }
   EXPECT_EQ(Ids(), "M0001 M0002 ");
+  PutFile("QXDATA/TORN.DAT", "\"20\"\r\n\"TORN\"\r\n");
+  box.Edit("torn");
+  QueueAnswer("OK");
+  box.PressEnter();
+  EXPECT_EQ(boxes().back().title, "Unexpected Error 62");
+  EXPECT_EQ(Ids(), "M0001 M0002 ");
   Click(kEditor, "Command9");
   EXPECT_FALSE(IsOpen(kEditor)) << "manual entries are not asked about";
 }
@@ -328,6 +363,7 @@ TEST_F(TemplateEditorScreen, ImmediateAndAssist_GoToTheAirAndBack) {
 
 TEST_F(TemplateEditorScreen, FullTemplate_ReplacesItsLastEvent) {
   OpenWith(std::vector<std::string>(1999, "S1"));
+  Advance(1s);
   QueueAnswer("OK");
   Add("List3", "S2");
   EXPECT_EQ(boxes().back().title, "Maximum Entries Reached");

@@ -11,6 +11,8 @@ class TemplateSelection : public StationFixture {
   TemplateSelection() {
     for (const char* name : {"GALA.TPP", "MON.TPT", "GALA.TPL", "NIGHT.TPL", "MON.TPD"})
       PutTemplate(name, {});
+    AddLibrary(2, 2, 0);  // what the editor wants to open at all
+    for (const char* id : {"S1", "S2"}) AddSpot(id, 20000);
   }
   ListBox& Select(std::string_view screen, std::string_view list, std::string_view row) {
     auto& box = Find<ListBox>(screen, list);
@@ -19,7 +21,7 @@ class TemplateSelection : public StationFixture {
     box.PersonSelects({static_cast<int>(found - box.rows().begin())});
     return box;
   }
-  bool EditorOpen() { return IsOpen("BuildTemplate1") || IsOpen("NotBuilt"); }
+  bool EditorOpen() { return IsOpen("BuildTemplate1"); }
   bool DoneEnabled(std::string_view screen) { return Find<Button>(screen, "Done").enabled(); }
 };
 
@@ -63,6 +65,7 @@ TEST_F(TemplateSelection, Build_DoneDoubleClickAndEnterHandTheNameToTheEditor) {
     SCOPED_TRACE(way);
     station_.PowerCut();
     std::filesystem::remove(Host("QXAIR/PIKNAME.DTA"));
+    PutTemplate("WED.TPT", {});
     StartConsole();
     Menu("EditTemplate");
     ListBox& list = Select(kBuild, "List1", "WED.TPT");
@@ -127,9 +130,11 @@ TEST_F(TemplateSelection, Build_NewNameGoesToTheEditorWithItsExtension) {
     SCOPED_TRACE(item);
     StartConsole();
     Menu(item);
+    const std::size_t before = boxes().size();
     QueueAnswer(typed);
+    QueueAnswer("OK");  // to the editor's question whether it is to be a new file
     Click(kBuild, "NewTemplate");
-    EXPECT_EQ(boxes().back().text,
+    EXPECT_EQ(boxes().at(before).text,
               "Enter New ID (Do not enter file extension), then 'OK'...\n"
               "[Filename should not exceed 8 digits if DOS playback is desired.]");
     EXPECT_EQ(FileText("QXAIR/PIKNAME.DTA"), "\"" + std::string(name) + "\"\r\n");
@@ -140,7 +145,6 @@ TEST_F(TemplateSelection, Build_NewNameGoesToTheEditorWithItsExtension) {
 }
 
 TEST_F(TemplateSelection, PickPlay_HandsOverTheNameAndOpensPlayback) {
-  AddLibrary(2, 1, 1);
   StartConsole();
   Menu("RunTemplate");
   EXPECT_EQ(Rows(kPick, "File1"), std::vector<std::string>{"GALA.TPP"});
