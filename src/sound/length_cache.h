@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <mutex>
+#include <optional>
 #include <unordered_map>
 
 #include "sound/decoder.h"
@@ -17,6 +18,8 @@ class LengthCache {
  public:
   /// Examines the file unless it is known; what is missing is unplayable and not remembered.
   FileFacts Facts(const std::filesystem::path& path);
+  /// Facts of it would come at once: it was examined as it is now, or is missing.
+  bool Knows(const std::filesystem::path& path);
   /// Milliseconds, 0 when unplayable.
   std::int32_t LengthMs(const std::filesystem::path& path) { return Facts(path).length_ms; }
 
@@ -26,6 +29,10 @@ class LengthCache {
     std::filesystem::file_time_type changed;
     FileFacts facts;
   };
+
+  /// How the file stands, without facts; none when it is missing.
+  static std::optional<Entry> Stand(const std::filesystem::path& path);
+  std::optional<FileFacts> Known(const std::filesystem::path& path, const Entry& stand);
 
   std::mutex mutex_;
   std::unordered_map<std::string, Entry> entries_;

@@ -1,6 +1,7 @@
 #include "sound/sound_system.h"
 
 #include <algorithm>
+#include <chrono>
 #include <iterator>
 #include <stdexcept>
 
@@ -32,6 +33,18 @@ std::unique_ptr<MediaPlayer> SoundSystem::MakePlayer(int /*number*/) {
   auto player = std::make_unique<SoundPlayer>(*this, slot);
   players_[slot] = player.get();
   return player;
+}
+
+bool SoundSystem::IsReadyToOpen(const std::optional<std::filesystem::path>& host_path) {
+  if (!host_path || lengths_.Knows(*host_path)) return true;
+  if (examination_.valid()) {
+    if (examination_.wait_for(std::chrono::seconds(0)) != std::future_status::ready) return false;
+    examination_.get();
+    if (examined_ == *host_path) return true;  // it changes under our eyes
+  }
+  examined_ = *host_path;
+  examination_ = std::async(std::launch::async, [this, path = *host_path] { lengths_.Facts(path); });
+  return false;
 }
 
 std::string SoundSystem::OutputTrouble() const {

@@ -12,12 +12,15 @@
 //
 // Everything here is called on the user interface thread and none of it waits for a device. Opening a file
 // reads it on that thread: about a millisecond for WAV or a file that was open before, some ten for four
-// minutes of new MP3.
+// minutes of new MP3; IsReadyToOpen takes that off it.
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
+#include <future>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -53,6 +56,7 @@ class SoundSystem : public Media {
 
   /// Throws std::length_error when 32 players exist already.
   std::unique_ptr<MediaPlayer> MakePlayer(int number) override;
+  bool IsReadyToOpen(const std::optional<std::filesystem::path>& host_path) override;
   std::string OutputTrouble() const override;
 
   /// Lengths found in this session; shared with whoever else measures files.
@@ -70,6 +74,8 @@ class SoundSystem : public Media {
   std::shared_ptr<SoundCore> core_;
   LengthCache lengths_;
   std::array<SoundPlayer*, Mixer::kSlots> players_{};  // by slot of the mixer, none where free
+  std::filesystem::path examined_;                     // the last file of IsReadyToOpen
+  std::future<void> examination_;                      // by a helper thread, which the destructor waits for
   friend class SoundPlayer;
 };
 

@@ -13,9 +13,12 @@
 #include "station/picklist/pick_list_form1.h"
 #include "station/random/random_form1.h"
 #include "station/random/random_setup.h"
+#include "station/recording/artist_title.h"
 #include "station/recording/auto_time.h"
 #include "station/recording/capture_screen.h"
 #include "station/recording/entry_screen.h"
+#include "station/recording/import_win.h"
+#include "station/recording/import_win_auto.h"
 #include "station/templates/build_template.h"
 #include "station/templates/build_template1.h"
 #include "station/templates/copy_sat_temp.h"
@@ -37,6 +40,7 @@ std::unique_ptr<Screen> Make(const Platform& platform) {
 
 ScreenRegistry::Catalogue StationScreens() {
   return {
+      {"ArtistTitle", Make<ArtistTitle>},
       {"Autostart", Make<Autostart>},
       {"AutoTime", Make<AutoTime>},
       {"BuildTemplate", Make<BuildTemplate>},
@@ -52,6 +56,8 @@ ScreenRegistry::Catalogue StationScreens() {
       {"frmAbout", Make<About>},
       {"frmSplash", Make<Splash>},
       {"ImportTemplate", Make<ImportTemplate>},
+      {"ImportWin", Make<ImportWin>},
+      {"ImportWinAuto", Make<ImportWinAuto>},
       {"InstallInfo", Make<InstallInfo>},
       {"InstallInfo2", Make<InstallInfo2>},
       {"MMregOCX", Make<MMregOCX>},

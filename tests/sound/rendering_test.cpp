@@ -4,6 +4,7 @@
 #include <sndfile.h>
 
 #include <cmath>
+#include <thread>
 
 #include "sound/sound_files.h"
 #include "sound/sound_system.h"
@@ -264,6 +265,20 @@ TEST_F(Rendering, ModesFollowTheCommands) {
   EXPECT_EQ(Difference(Render(100), std::vector<StereoFrame>(100)), "")
       << "an ended item has nothing left to play";
   EXPECT_EQ(player->Mode(), ChannelMode::kStopped);
+}
+
+TEST_F(Rendering, AFileLookedThroughBeforehand_IsKnownWhenItIsOpened) {
+  EXPECT_TRUE(sound_.IsReadyToOpen(std::nullopt));
+  EXPECT_TRUE(sound_.IsReadyToOpen(files_.Path("none.wav")));
+  for (const auto& path :
+       {files_.Wave("song.wav", UniqueFrames(48'000, 1)), files_.Write("no.mp3", "text")}) {
+    EXPECT_FALSE(sound_.lengths().Knows(path));
+    EXPECT_FALSE(sound_.IsReadyToOpen(path)) << "it begins only";
+    while (!sound_.IsReadyToOpen(path)) std::this_thread::yield();
+    EXPECT_TRUE(sound_.lengths().Knows(path));
+  }
+  files_.Wave("song.wav", UniqueFrames(96'000, 1));
+  EXPECT_FALSE(sound_.lengths().Knows(files_.Path("song.wav"))) << "it is another file now";
 }
 
 }  // namespace

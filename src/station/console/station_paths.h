@@ -42,6 +42,9 @@ inline constexpr std::string_view kSatVerify =
 inline constexpr std::string_view kEditSat = "C:\\QXAIR\\EDITSAT.DTA";
 inline constexpr std::string_view kStartTime = "C:\\QXAIR\\START.TMP";
 inline constexpr std::string_view kImportRequest = "C:\\QXAIR\\IMPORT.DAT";
+inline constexpr std::string_view kImportPath = "C:\\QXAIR\\IMPATH.DTA";  // last source folder
+inline constexpr std::string_view kFastImport =
+    "C:\\QXAIR\\FASTIMP.DTA";  // what the fast importer was set to
 inline constexpr std::string_view kLastRecording = "C:\\QXAIR\\TEMPSPOT.DAT";
 inline constexpr std::string_view kTimeRecord = "C:\\QXAIR\\TIMERECORD.DTA";  // the announcement to record
 inline constexpr std::string_view kHandOver = "C:\\QXDATA\\TEMP.DAT";

@@ -64,6 +64,12 @@ bool IsLegalId(std::string_view id) {
   return StartsWithIgnoringCase(id, "LL");
 }
 
+std::size_t FieldCount(std::string_view id) {
+  if (IsSpotId(id)) return kSpotFields;
+  if (IsMusicId(id)) return kMusicFields;
+  return IsLinerId(id) ? kLinerFields : 0;
+}
+
 Result<SpotRecord> ParseSpot(std::string_view content) {
   return Parse<SpotRecord>(content, kSpotOrder);
 }
@@ -72,6 +78,13 @@ Result<MusicRecord> ParseMusic(std::string_view content) {
 }
 Result<LinerRecord> ParseLiner(std::string_view content) {
   return Parse<LinerRecord>(content, kLinerOrder);
+}
+
+MusicRecord MusicFieldsOf(std::string_view content) {
+  MusicRecord record;
+  ReadForm form(content);
+  for (const auto field : kMusicOrder) record.*field = form.Next().value_or({});
+  return record;
 }
 
 std::string FormatRecord(const SpotRecord& record) {
@@ -123,6 +136,21 @@ Status WriteRecord(Files& files, const MusicRecord& record) {
 }
 Status WriteRecord(Files& files, const LinerRecord& record) {
   return files.Write(station_paths::DataFile(record.RecordingId), FormatRecord(record), Durability::kFlushed);
+}
+
+Status RewriteAudioFields(Files& files, std::string_view id, std::string_view length,
+                          std::string_view drive) {
+  const std::string path = station_paths::DataFile(id);
+  const Result<std::string> content = files.Read(path);
+  if (!content.ok()) return content.error();
+  const std::size_t count = FieldCount(id);
+  std::vector<std::string> fields = ReadValues(content.value(), count);
+  if (count == 0 || fields.size() < count) return RunTimeError::kInputPastEnd;
+  fields[0] = length;
+  fields[2] = drive;
+  WriteForm form;
+  for (const std::string& field : fields) form.Text(field);
+  return files.Write(path, form.bytes(), Durability::kFlushed);
 }
 
 std::vector<std::string> ListRecordings(Files& files, std::string_view pattern) {

@@ -63,10 +63,15 @@ inline constexpr std::size_t kSpotFields = 10;
 inline constexpr std::size_t kMusicFields = 8;
 inline constexpr std::size_t kLinerFields = 8;
 
+/// Lines of a data file of that id's kind; 0 when the id is of none.
+std::size_t FieldCount(std::string_view id);
+
 /// Every line of the kind must be there, else 62; what follows is left alone.
 Result<SpotRecord> ParseSpot(std::string_view content);
 Result<MusicRecord> ParseMusic(std::string_view content);
 Result<LinerRecord> ParseLiner(std::string_view content);
+/// The same of a song for a reader that skips errors: what is missing stays empty.
+MusicRecord MusicFieldsOf(std::string_view content);
 
 std::string FormatRecord(const SpotRecord& record);
 std::string FormatRecord(const MusicRecord& record);
@@ -88,6 +93,10 @@ std::vector<std::string> ReadLeadingFields(Files& files, std::string_view id, st
 Status WriteRecord(Files& files, const SpotRecord& record);
 Status WriteRecord(Files& files, const MusicRecord& record);
 Status WriteRecord(Files& files, const LinerRecord& record);
+
+/// Rewrites the data file of `id`, a spot, song or liner, with a new length and drive; the other fields of its
+/// kind stay as they are. 62 when one of them is missing, with the file untouched.
+Status RewriteAudioFields(Files& files, std::string_view id, std::string_view length, std::string_view drive);
 
 /// The ids of the data files that match, in the folder's order; none when the folder cannot be read.
 std::vector<std::string> ListRecordings(Files& files, std::string_view pattern);

@@ -256,10 +256,14 @@ void FileListBox::SetPattern(std::string pattern) {
 }
 
 void FileListBox::Refresh() {
-  Clear();
-  if (path_.empty()) return;
-  for (std::string& name : screen().platform().files.List(path_, pattern_).value_or({}))
-    AddRow(std::move(name));
+  if (path_.empty()) {
+    Clear();
+    return;
+  }
+  std::vector<std::string> names = screen().platform().files.List(path_, pattern_).value_or({});
+  std::stable_sort(names.begin(), names.end(),
+                   [](const std::string& a, const std::string& b) { return LessIgnoringCase(a, b); });
+  SetRows(std::move(names));
 }
 
 DirListBox::DirListBox(ControlOwner& owner, std::string name)

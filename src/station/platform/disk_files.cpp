@@ -4,8 +4,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <unordered_set>
 
+#include "station/platform/file_copy.h"
 #include "station/platform/host_file.h"
 #include "station/platform/text.h"
 
@@ -39,10 +42,17 @@ FileType TypeOf(const std::string& folder, const dirent& entry) {
   return IsFolder(path) ? FileType::directory : FileType::unknown;
 }
 
-bool IsSameFile(const std::optional<std::filesystem::path>& a,
-                const std::optional<std::filesystem::path>& b) {
-  std::error_code ignored;
-  return a && b && std::filesystem::equivalent(*a, *b, ignored);
+/// A name of the host as the station can hold it, and write between quotes and into a path.
+std::string StationName(std::string_view host_name) {
+  std::string name = FromUtf8(host_name);
+  const auto unfit = [](char c) { return c == '"' || c == '\\' || (c >= 0 && c < ' '); };
+  std::replace_if(name.begin(), name.end(), unfit, '?');
+  return name;
+}
+
+std::string WithMark(const std::string& name, int number) {
+  const std::size_t dot = std::min(name.rfind('.'), name.size());
+  return name.substr(0, dot) + '~' + std::to_string(number) + name.substr(dot);
 }
 
 }  // namespace
@@ -100,8 +110,22 @@ Status DiskFiles::Delete(std::string_view path) {
 Status DiskFiles::Copy(std::string_view from, std::string_view to) {
   Result<std::string> content = Read(from);
   if (!content.ok()) return content.error();
-  if (IsSameFile(HostPath(from), HostPath(to))) return RunTimeError::kPermissionDenied;
+  if (AreSame(from, to)) return RunTimeError::kPermissionDenied;
   return Write(to, content.value(), Durability::kFlushed);
+}
+
+Result<std::unique_ptr<FileCopy>> DiskFiles::BeginCopy(std::string_view from, std::string_view to) {
+  const auto source = HostPath(from);
+  if (!source) {
+    const auto why = Read(from);
+    return why.ok() ? RunTimeError::kFileNotFound : why.error();
+  }
+  auto place = Locate(to);
+  if (place.ok() && ForgetMissingFolder(place.value())) place = Locate(to);
+  if (!place.ok()) return place.error();
+  if (AreSame(from, to)) return RunTimeError::kPermissionDenied;
+  return FileCopy::Begin(source->string(), place.value().folder, place.value().name,
+                         flushing_ == Flushing::kToDisk ? FileCopy::Pace::kBeside : FileCopy::Pace::kByStep);
 }
 
 Status DiskFiles::MakeFolder(std::string_view path) {
@@ -127,8 +151,7 @@ Result<std::vector<std::string>> DiskFiles::List(std::string_view folder, std::s
   std::vector<std::string> names;
   for (const Entry& entry : listing.value()->entries) {
     if (entry.type != FileType::regular) continue;
-    std::string name = FromUtf8(entry.name);
-    if (MatchesPattern(name, pattern)) names.push_back(std::move(name));
+    if (MatchesPattern(entry.shown, pattern)) names.push_back(entry.shown);
   }
   return names;
 }
@@ -138,7 +161,7 @@ Result<std::vector<std::string>> DiskFiles::ListFolders(std::string_view folder)
   if (!listing.ok()) return listing.error();
   std::vector<std::string> names;
   for (const Entry& entry : listing.value()->entries) {
-    if (entry.type == FileType::directory && entry.name.front() != '.') names.push_back(FromUtf8(entry.name));
+    if (entry.type == FileType::directory && entry.name.front() != '.') names.push_back(entry.shown);
   }
   return names;
 }
@@ -236,7 +259,7 @@ Result<std::string> DiskFiles::Existing(const Place& place) {
 std::optional<std::string> DiskFiles::RealName(const std::string& folder, const std::string& name) {
   const FolderIndex* index = NamedIndex(folder);
   if (index == nullptr) return std::nullopt;
-  const auto found = index->real_names.find(UpperCased(FromUtf8(name)));
+  const auto found = index->real_names.find(UpperCased(StationName(name)));
   if (found == index->real_names.end()) return std::nullopt;
   return found->second;
 }
@@ -253,6 +276,16 @@ DiskFiles::FolderIndex* DiskFiles::CurrentIndex(const std::string& folder) {
   return &index;
 }
 
+void DiskFiles::TellApart(std::vector<Entry>& entries) {
+  std::unordered_set<std::string> taken;  // of the few names with a stand-in
+  for (Entry& entry : entries) {
+    if (entry.shown.find('?') == std::string::npos) continue;
+    const std::string name = entry.shown;
+    for (int number = 2; !taken.insert(UpperCased(entry.shown)).second; ++number)
+      entry.shown = WithMark(name, number);
+  }
+}
+
 const DiskFiles::FolderIndex* DiskFiles::OrderedIndex(const std::string& folder) {
   FolderIndex* index = CurrentIndex(folder);
   if (index == nullptr || index->ordered) return index;
@@ -260,8 +293,9 @@ const DiskFiles::FolderIndex* DiskFiles::OrderedIndex(const std::string& folder)
   if (!stream) return nullptr;
   index->entries.clear();
   while (const dirent* entry = ::readdir(stream.get())) {
-    index->entries.push_back({entry->d_name, TypeOf(folder, *entry)});
+    index->entries.push_back({entry->d_name, StationName(entry->d_name), TypeOf(folder, *entry)});
   }
+  TellApart(index->entries);
   // A file made within the grain of the folder's time would not show: what is that fresh is listed anew next time.
   index->ordered = std::filesystem::file_time_type::clock::now() - index->modified > kFolderTimeGrain;
   return index;
@@ -272,8 +306,7 @@ const DiskFiles::FolderIndex* DiskFiles::NamedIndex(const std::string& folder) {
   if (index == nullptr || index->named) return index;
   if (OrderedIndex(folder) == nullptr) return nullptr;
   index->real_names.clear();
-  for (const Entry& entry : index->entries)
-    index->real_names.emplace(UpperCased(FromUtf8(entry.name)), entry.name);
+  for (const Entry& entry : index->entries) index->real_names.emplace(UpperCased(entry.shown), entry.name);
   index->named = index->ordered;
   return index;
 }
@@ -283,7 +316,7 @@ void DiskFiles::Remember(const std::string& folder, const std::string& name, boo
   if (held == indexes_.end() || !folder_was_current) return;
   std::error_code error;
   held->second.modified = std::filesystem::last_write_time(folder, error);
-  held->second.real_names.emplace(UpperCased(FromUtf8(name)), name);
+  held->second.real_names.emplace(UpperCased(StationName(name)), name);
   held->second.ordered = false;  // where the folder put it is not known
 }
 

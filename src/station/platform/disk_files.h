@@ -4,7 +4,8 @@
 // exact name first, and failing that by an index of the folder (upper-cased name to real name). The index is
 // kept in memory for as long as the folder's modification time stands, is kept up by our own writes, and is
 // listed again once when it led astray, since listing a folder of 10,000 for each miss would take minutes
-// over a whole library.
+// over a whole library. A name that the code page or the old PC could not hold is listed with "?" in place of
+// what does not fit, "~2" and so on where two would look alike, and is found by that name.
 
 #include <chrono>
 #include <map>
@@ -18,7 +19,7 @@ namespace quixair {
 
 class DiskFiles : public Files {
  public:
-  /// What a flushed write does: a rehearsal on a copy has no need to wait for the disk.
+  /// What a flushed write does: a rehearsal on a copy has no need to wait for the disk, nor for helper threads.
   enum class Flushing { kToDisk, kNone };
   explicit DiskFiles(Drives drives, Flushing flushing = Flushing::kToDisk)
       : drives_(std::move(drives)), flushing_(flushing) {}
@@ -28,6 +29,7 @@ class DiskFiles : public Files {
   Status Append(std::string_view path, std::string_view bytes, Durability durability) override;
   Status Delete(std::string_view path) override;
   Status Copy(std::string_view from, std::string_view to) override;
+  Result<std::unique_ptr<FileCopy>> BeginCopy(std::string_view from, std::string_view to) override;
   Status MakeFolder(std::string_view path) override;
   bool Exists(std::string_view path) override;
   Result<std::vector<std::string>> List(std::string_view folder, std::string_view pattern) override;
@@ -40,7 +42,8 @@ class DiskFiles : public Files {
 
  private:
   struct Entry {
-    std::string name;  // on the host
+    std::string name;   // on the host
+    std::string shown;  // in the station
     std::filesystem::file_type type = std::filesystem::file_type::unknown;
   };
   struct FolderIndex {
@@ -66,6 +69,7 @@ class DiskFiles : public Files {
   std::optional<std::string> RealName(const std::string& folder, const std::string& name);
   /// What is held of the folder while its modification time stands, else an empty index; none when it cannot be read.
   FolderIndex* CurrentIndex(const std::string& folder);
+  static void TellApart(std::vector<Entry>& entries);
   const FolderIndex* OrderedIndex(const std::string& folder);
   const FolderIndex* NamedIndex(const std::string& folder);
   void Remember(const std::string& folder, const std::string& name, bool folder_was_current);

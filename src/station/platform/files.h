@@ -2,9 +2,11 @@
 
 // The station's files, under the paths that its documents name: a drive letter, a colon, folders with
 // backslashes, without regard to case. Drives maps the letters to directories of the host; this interface is
-// the only way from the station to a file. Every operation opens, acts and closes before it returns.
+// the only way from the station to a file. Every operation opens, acts and closes before it returns, but for
+// the copy of a large file.
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,6 +15,8 @@
 #include "station/platform/run_time_error.h"
 
 namespace quixair {
+
+class FileCopy;
 
 /// Whether a write must have reached the disk, and not only the system's memory, when the call returns.
 enum class Durability { kOrdinary, kFlushed };
@@ -32,6 +36,10 @@ class Files {
   virtual Status Delete(std::string_view path) = 0;
   /// 70 when both are the same file of the host, under whatever names.
   virtual Status Copy(std::string_view from, std::string_view to) = 0;
+  /// The same for audio, which its caller carries on piece by piece. What can be told beforehand is told here:
+  /// the errors of Read for the one, of Write for the other, room for the whole included. Nothing lies under
+  /// the name of `to` before the end.
+  virtual Result<std::unique_ptr<FileCopy>> BeginCopy(std::string_view from, std::string_view to) = 0;
   /// 75 when it is there already.
   virtual Status MakeFolder(std::string_view path) = 0;
 
@@ -51,6 +59,8 @@ class Files {
   /// The same for a file that is about to be made: where it lies or will lie. 71 no such drive, 76 no such
   /// folder.
   virtual Result<std::filesystem::path> HostPathToMake(std::string_view path) = 0;
+  /// Both exist and are one file of the host, under whatever names.
+  bool AreSame(std::string_view a, std::string_view b);
 };
 
 }  // namespace quixair

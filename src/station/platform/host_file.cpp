@@ -11,23 +11,6 @@
 namespace quixair::host_file {
 namespace {
 
-class Descriptor {
- public:
-  explicit Descriptor(int fd) : fd_(fd) {}
-  ~Descriptor() {
-    if (fd_ >= 0) ::close(fd_);
-  }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  bool open() const { return fd_ >= 0; }
-  int get() const { return fd_; }
-  /// Some file systems tell a full disk only when the file is closed.
-  int Close() { return ::close(std::exchange(fd_, -1)); }
-
- private:
-  int fd_;
-};
-
 RunTimeError FromErrno(int error) {
   switch (error) {
     case ENOENT:
@@ -57,29 +40,6 @@ RunTimeError FromErrno(int error) {
   }
 }
 
-off_t SizeOf(const Descriptor& file) {
-  struct stat about {};
-  return ::fstat(file.get(), &about) == 0 ? about.st_size : 0;
-}
-
-Status WriteAt(const Descriptor& file, off_t place, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t put = ::pwrite(file.get(), bytes.data(), bytes.size(), place);
-    if (put < 0 && errno == EINTR) continue;
-    if (put < 0) return LastError();
-    place += put;
-    bytes.remove_prefix(static_cast<std::size_t>(put));
-  }
-  return {};
-}
-
-/// Claims room behind `place`; where the file system cannot, the write itself will tell.
-Status Reserve(const Descriptor& file, off_t place, off_t length) {
-  if (length <= 0) return {};
-  if (::fallocate(file.get(), FALLOC_FL_KEEP_SIZE, place, length) != 0 && errno == ENOSPC) return LastError();
-  return {};
-}
-
 Status Finish(Descriptor& file, bool flush) {
   if (flush && ::fdatasync(file.get()) != 0) return LastError();
   if (file.Close() != 0) return LastError();
@@ -97,8 +57,40 @@ Descriptor OpenToWrite(const std::string& host_path) {
 
 }  // namespace
 
+Descriptor::Descriptor(Descriptor&& other) noexcept : fd_(std::exchange(other.fd_, -1)) {}
+
+Descriptor::~Descriptor() {
+  if (fd_ >= 0) ::close(fd_);
+}
+
+int Descriptor::Close() {
+  return ::close(std::exchange(fd_, -1));
+}
+
 RunTimeError LastError() {
   return FromErrno(errno);
+}
+
+off_t SizeOf(const Descriptor& file) {
+  struct stat about {};
+  return ::fstat(file.get(), &about) == 0 ? about.st_size : 0;
+}
+
+Status WriteAt(const Descriptor& file, off_t place, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t put = ::pwrite(file.get(), bytes.data(), bytes.size(), place);
+    if (put < 0 && errno == EINTR) continue;
+    if (put < 0) return LastError();
+    place += put;
+    bytes.remove_prefix(static_cast<std::size_t>(put));
+  }
+  return {};
+}
+
+Status Reserve(const Descriptor& file, off_t place, off_t length) {
+  if (length <= 0) return {};
+  if (::fallocate(file.get(), FALLOC_FL_KEEP_SIZE, place, length) != 0 && errno == ENOSPC) return LastError();
+  return {};
 }
 
 Result<std::string> ReadAll(const std::string& host_path) {

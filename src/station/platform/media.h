@@ -59,6 +59,9 @@ class Media {
   virtual ~Media() = default;
   /// `number` names the channel in traces, from 1.
   virtual std::unique_ptr<MediaPlayer> MakePlayer(int number) = 0;
+  /// Begins to look through a file beside everything else; true once Open of it takes next to no time. For
+  /// files of any size that are opened while others are on the air.
+  virtual bool IsReadyToOpen(const std::optional<std::filesystem::path>& /*host_path*/) { return true; }
   /// Empty while sound reaches an output; otherwise what is wrong, in plain words for the operator.
   virtual std::string OutputTrouble() const = 0;
 };

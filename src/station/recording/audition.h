@@ -6,6 +6,9 @@
 
 namespace quixair {
 
+/// The channel of the recording screens, apart from the four that are on the air.
+inline constexpr int kAuditionChannel = 9;
+
 /// Play starts, goes on, or plays once more from the top what has ended; Pause holds.
 void PlayByHand(MediaControl& channel);
 

@@ -6,7 +6,6 @@
 #include "station/platform/files.h"
 #include "station/platform/text.h"
 #include "station/recording/audition.h"
-#include "station/recording/entry_screen.h"
 
 namespace quixair {
 namespace {

@@ -4,7 +4,6 @@
 #include "station/platform/programs.h"
 #include "station/platform/recorder.h"
 #include "station/platform/text.h"
-#include "station/recording/audition.h"
 
 namespace quixair {
 namespace {

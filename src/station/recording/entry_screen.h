@@ -11,14 +11,12 @@
 #include <string>
 
 #include "station/platform/screen.h"
+#include "station/recording/audition.h"
 #include "station/recording/entry_kind.h"
 #include "station/recording/record_boxes.h"
 #include "station/recording/record_faults.h"
 
 namespace quixair {
-
-/// The channel of the recording screens, apart from the four that are on the air.
-inline constexpr int kAuditionChannel = 9;
 
 class EntryScreen : public Screen {
  public:

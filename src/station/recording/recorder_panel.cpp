@@ -5,7 +5,6 @@
 #include "station/platform/programs.h"
 #include "station/platform/text.h"
 #include "station/recording/audition.h"
-#include "station/recording/entry_screen.h"
 
 namespace quixair {
 namespace {

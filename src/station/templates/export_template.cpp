@@ -61,7 +61,7 @@ void ExportTemplate::TellFault(const Status& fault) {
   Text1.SetText("There was a problem Exporting " + name_ + " to " + path);
   Dialogs& dialogs = platform_.dialogs;
   if (fault.error() == RunTimeError::kDiskNotReady) {
-    TellDriveMissing(Dir1.drive());
+    TellDriveMissing(dialogs, Dir1.drive());
   } else if (fault.error() == RunTimeError::kPermissionDenied) {
     dialogs.MessageBox(
         "Cannot copy file.  Make sure write access to the disk is allowed\n"

@@ -60,7 +60,7 @@ void ImportTemplate::TellFault(const Status& fault) {
   Dialogs& dialogs = platform_.dialogs;
   switch (fault.error()) {
     case RunTimeError::kDiskNotReady:
-      return TellDriveMissing(Dir1.drive());
+      return TellDriveMissing(dialogs, Dir1.drive());
     case RunTimeError::kPermissionDenied:
       dialogs.MessageBox(
           "Cannot copy file to C:\\QXTEMPLT.  Disk may be protected,\n"

@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "station/console/folder_choice.h"
 #include "station/platform/run_time_error.h"
 #include "station/platform/screen.h"
 #include "station/templates/template_choice.h"
@@ -14,7 +15,7 @@ namespace quixair {
 
 class TransferTemplate : public Screen {
  public:
-  using Screen::Screen;
+  TransferTemplate(const Platform& platform, std::string name, std::string title);
 
   TextBox Text1{*this, "Text1", TextBox::Use::kShow};
   DriveListBox Drive1{*this, "Drive1"};
@@ -31,16 +32,14 @@ class TransferTemplate : public Screen {
   };
 
   /// Drive C and its root.
-  void ShowFirstFolder();
+  void ShowFirstFolder() { folder_.ShowFirst(); }
   /// Asks, copies and tells; true when it was copied.
   bool CopyNow(const Transfer& transfer);
-  void TellDriveMissing(char letter);
-
   virtual void FolderChanged() {}
   virtual void TellFault(const Status& fault) = 0;
 
  private:
-  void OpenDrive();
+  FolderChoice folder_{Drive1, Dir1, File3, FolderChoice::Missing::kBackToDriveBefore};
 };
 
 class ExportTemplate : public TransferTemplate {

@@ -134,6 +134,27 @@ TEST_F(RecordingFile, HandOverFiles_StandByteForByte) {
   EXPECT_EQ(ReadImportRequest(files()).status().number(), 62);
 }
 
+TEST_F(RecordingFile, RewrittenAudioFields_LeaveTheOthersOfTheKind) {
+  AddSpot("S1", 30000, "P", "01-01-26", "12-31-26");
+  AddSong("M1", 30000);
+  AddLiner("L1", 30000);
+  PutFile("QXDATA/M1.DAT", FileText("QXDATA/M1.DAT") + "\r\n\r\n");  // as after a capture
+  const auto spot = ReadSpotRecord(files(), "S1").value_or({});
+  const auto song = ReadMusicRecord(files(), "M1").value_or({});
+  const auto liner = ReadLinerRecord(files(), "L1").value_or({});
+  for (const char* id : {"S1", "m1", "L1"}) EXPECT_TRUE(RewriteAudioFields(files(), id, "9.9", "E").ok());
+  auto [spot_now, song_now, liner_now] = std::tuple(spot, song, liner);
+  spot_now.Length = song_now.Length = liner_now.Length = "9.9";
+  spot_now.Drive = song_now.Drive = liner_now.Drive = "E";
+  EXPECT_EQ(FileText("QXDATA/S1.DAT"), FormatRecord(spot_now));
+  EXPECT_EQ(FileText("QXDATA/M1.DAT"), FormatRecord(song_now));
+  EXPECT_EQ(FileText("QXDATA/L1.DAT"), FormatRecord(liner_now));
+  PutFile("QXDATA/S2.DAT", FormatRecord(song));
+  EXPECT_EQ(RewriteAudioFields(files(), "S2", "9.9", "E").number(), 62) << "a spot has ten lines";
+  EXPECT_EQ(FileText("QXDATA/S2.DAT"), FormatRecord(song));
+  EXPECT_EQ(RewriteAudioFields(files(), "S3", "9.9", "E").number(), 53);
+}
+
 TEST(RecordingIds, FirstLetters_TellTheKind) {
   EXPECT_TRUE(IsSpotId("s1") && IsMusicId("m1") && IsLinerId("l1") && IsLinerId("LL1") && IsLegalId("lL1"));
   EXPECT_FALSE(IsLegalId("L1") || IsLegalId("LM1") || IsSpotId("") || IsMusicId("1M") || IsLinerId(">LIVE"));

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <set>
 
 #include "station/platform/text.h"
 #include "support/station_fixture.h"
@@ -267,6 +268,25 @@ TEST_F(DiskFilesTest, NamesThatTheCodePageCannotHold_CanStillBeOpenedAsTheyAreLi
   EXPECT_EQ(Listed("C:\\QXDATA", "*.dat"), (std::vector<std::string>{"?.dat", "caf?.dat"}));
   EXPECT_EQ(Read("C:\\QXDATA\\caf?.dat"), "no UTF-8");
   EXPECT_EQ(Read("C:\\QXDATA\\?.dat"), "outside the code page");
+}
+
+TEST_F(DiskFilesTest, NamesThatWouldLookAlike_AreToldApartAndEachCanBeOpened) {
+  for (const char* name : {"\u0141.mp3", "\u0416.mp3", "\u0436.MP3"})
+    PutHost("QXDATA/" + std::string(name), name);
+  std::set<std::string> contents;
+  for (const std::string& name : Listed("C:\\QXDATA", "*.mp3")) contents.insert(Read("C:\\QXDATA\\" + name));
+  EXPECT_EQ(contents, (std::set<std::string>{"\u0141.mp3", "\u0416.mp3", "\u0436.MP3"}));
+}
+
+TEST_F(DiskFilesTest, NamesThatTheOldPcCouldNotHave_CanBeWrittenBetweenQuotesAndIntoAPath) {
+  PutHost("QXDATA/say \"hi\".mp3", "quotes");
+  PutHost("QXDATA/back\\slash.mp3", "backslash");
+  PutHost("QXDATA/two\nlines.mp3", "line feed");
+  EXPECT_EQ(Listed("C:\\QXDATA", "*.mp3"),
+            (std::vector<std::string>{"back?slash.mp3", "say ?hi?.mp3", "two?lines.mp3"}));
+  EXPECT_EQ(Read("C:\\QXDATA\\say ?hi?.mp3"), "quotes");
+  EXPECT_EQ(Read("C:\\QXDATA\\back?slash.mp3"), "backslash");
+  EXPECT_EQ(Read("C:\\QXDATA\\two?lines.mp3"), "line feed");
 }
 
 }  // namespace

@@ -1,0 +1,133 @@
+#include "station/recording/artist_title.h"
+
+#include "station/console/station_paths.h"
+#include "station/platform/clock.h"
+#include "station/platform/dialogs.h"
+#include "station/platform/files.h"
+
+namespace quixair {
+namespace {
+
+constexpr std::chrono::milliseconds kBetweenPortions{5};
+constexpr std::chrono::milliseconds kPortionTime{15};
+constexpr std::size_t kPortion = 200;
+constexpr std::size_t kFewest = 2;
+constexpr int kNameLimit = 20;
+constexpr int kYearLimit = 4;
+
+std::string PathOf(const std::string& file) {
+  return std::string(station_paths::kDataFolder) + '\\' + file;
+}
+
+}  // namespace
+
+ArtistTitle::ArtistTitle(const Platform& platform) : Screen(platform, "ArtistTitle", "Data File Editor") {
+  artisttext.SetMaxLength(kNameLimit);
+  titletext.SetMaxLength(kNameLimit);
+  RotationText.SetMaxLength(1);
+  fromyeartext.SetMaxLength(kYearLimit);
+  Command1.Disable();
+  List1.on_double_click = List1.on_enter = [this] { LoadSelected(); };
+  Command1.on_click = [this] { SaveItem(); };
+  Command2.on_click = [this] { Unload(); };
+  Command3.on_click = [this] { ShowHelp(); };
+  Timer1.on_tick = [this] { ReadPortion(); };
+}
+
+void ArtistTitle::Load() {
+  for (std::string& file : platform_.files.List(station_paths::kDataFolder, "M*.DAT").value_or({})) {
+    songs_.push_back({.file = std::move(file), .record = {}});
+  }
+  if (songs_.size() < kFewest) {
+    platform_.dialogs.MessageBox(
+        "You must record at least two song files before\nusing this module. Please make at least two\n"
+        "music recordings and then try again...",
+        box_style::kOk, "Not Enough Music!");
+    return Unload();
+  }
+  for (Control* control :
+       std::initializer_list<Control*>{&List1, &artisttext, &titletext, &RotationText, &fromyeartext}) {
+    control->Disable();
+  }
+  Timer1.SetInterval(kBetweenPortions);
+  ReadPortion();
+}
+
+void ArtistTitle::ReadPortion() {
+  const SteadyTime began = platform_.clock.Steady();
+  for (std::size_t i = 0; i < kPortion && read_ < songs_.size(); ++i) {
+    Song& song = songs_[read_++];
+    song.record = MusicFieldsOf(platform_.files.Read(PathOf(song.file)).value_or({}));
+    if (platform_.clock.Steady() - began > kPortionTime) break;
+  }
+  if (read_ == songs_.size()) return ShowAll();
+  Text2.SetText("Reading the songs: " + std::to_string(read_) + " of " + std::to_string(songs_.size()));
+}
+
+void ArtistTitle::ShowAll() {
+  Timer1.SetInterval(std::chrono::milliseconds(0));
+  std::vector<std::string> rows;
+  rows.reserve(songs_.size());
+  for (const Song& song : songs_) rows.push_back(song.file + "  ");
+  List1.SetRows(std::move(rows));
+  for (Control* control :
+       std::initializer_list<Control*>{&List1, &artisttext, &titletext, &RotationText, &fromyeartext}) {
+    control->Enable();
+  }
+  Text1.SetText(std::to_string(songs_.size()));
+  Text2.SetText("Select the number at which to begin editing.   Then click.");
+  List1.Select(0);
+  LoadSelected();
+  List1.SetFocus();
+}
+
+void ArtistTitle::LoadSelected() {
+  if (List1.selected_index() < 0) return;
+  loaded_ = static_cast<std::size_t>(List1.selected_index());
+  ShowFields(songs_[loaded_].record);
+  Command1.Enable();
+}
+
+void ArtistTitle::SaveItem() {
+  const Song& song = songs_[loaded_];
+  MusicRecord edited = song.record;
+  edited.Artist = artisttext.text();
+  edited.Title = titletext.text();
+  edited.Rotation = RotationText.text();
+  edited.FromYear = fromyeartext.text();
+  const Status saved = platform_.files.Write(PathOf(song.file), FormatRecord(edited), Durability::kFlushed);
+  if (!saved.ok()) return TellFileFault(platform_.dialogs, saved, song.file + " was not saved.");
+  ShowFields({});
+  if (loaded_ + 1 == songs_.size()) return;
+  List1.Select(static_cast<int>(loaded_ + 1));
+  LoadSelected();
+  artisttext.SetFocus();
+}
+
+void ArtistTitle::ShowFields(const MusicRecord& record) {
+  artisttext.SetText(record.Artist);
+  titletext.SetText(record.Title);
+  RotationText.SetText(record.Rotation);
+  fromyeartext.SetText(record.FromYear);
+  startdatetext.SetText(record.StartDate);
+  lengthtext.SetText(record.Length);
+  idtext.SetText(record.RecordingId);
+  drivetext.SetText(record.Drive);
+}
+
+void ArtistTitle::ShowHelp() {
+  platform_.dialogs.MessageBox(
+      "Select the position at which to start by clicking the appropriate item.  Items are listed in the "
+      "order "
+      "they appear on the hard drive (not alphabetical).  Edit the item selected.  The only editable fields "
+      "are artist, title, rotation, and from year.  When the item has been edited, press 'save item'.  That "
+      "particular item will be saved and the next item in the list will then appear - ready for editing.  "
+      "Again, when you have edited that item press 'Save Item' to save and load the next entry. If you do "
+      "not "
+      "press 'Save Item' before moving another item, any changes made will be lost.  Use Quit to end the "
+      "editing session at anytime.  NEVER use double quotes in the data fields as this will damage the data "
+      "file.  Use this utility at your own risk.",
+      box_style::kOk, "How to use the data file editor");
+}
+
+}  // namespace quixair
