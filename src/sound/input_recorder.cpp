@@ -12,7 +12,8 @@ constexpr std::size_t kRingFrames = std::size_t{1} << 19;  // 11 s of a disk tha
 constexpr auto kStep = 20ms;
 constexpr auto kUpdateInterval = 500ms;  // how old the header of a killed capture may be
 constexpr auto kTryInterval = 2s;
-constexpr auto kSilentFor = 2s;  // an input that hands nothing over for so long has died
+constexpr auto kSilentFor = 2s;         // an input that hands nothing over for so long has died
+constexpr auto kFirstSoundWithin = 5s;  // an idle sound server takes its time
 constexpr auto kStartPatience = 1s;
 constexpr auto kStopPatience = 5s;
 constexpr auto kEndPatience = 2s;
@@ -113,6 +114,7 @@ void RecorderCore::KeepInput() {
 
 void RecorderCore::OpenInput(int rate) {
   input_.reset();
+  taken_at_opening_ = taken_;
   input_ = driver_->Open(rate, *this);
   input_rate_ = rate;
   last_heard_ = Now();
@@ -126,8 +128,10 @@ void RecorderCore::OpenInput(int rate) {
 
 bool RecorderCore::InputDied(SteadyTime now) {
   const std::uint64_t taken = taken_.load(std::memory_order_relaxed);
-  if (std::exchange(heard_, taken) != taken) last_heard_ = now;
-  return !input_->Connected() || now - last_heard_ > kSilentFor;
+  if (taken != heard_) last_heard_ = now;
+  heard_ = taken;
+  const auto patience = taken == taken_at_opening_ ? kFirstSoundWithin : kSilentFor;
+  return !input_->Connected() || now - last_heard_ > patience;
 }
 
 void RecorderCore::TakeRequests() {

@@ -92,6 +92,7 @@ class RecorderCore final : public InputSink {
   SteadyTime next_try_{};
   SteadyTime last_heard_{};
   std::uint64_t heard_ = 0;
+  std::uint64_t taken_at_opening_ = 0;
   WaveWriter writer_;
   std::int64_t limit_frames_ = 0;
   SteadyTime next_update_{};

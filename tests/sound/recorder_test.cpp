@@ -211,8 +211,9 @@ TEST_F(Recorders, InputThatGoes_LeavesWhatWasCaptured) {
   EXPECT_EQ(ReadRecording(file_).samples, Interleaved(frames));
 }
 
-TEST_F(Recorders, InputThatHandsOverNothing_CountsAsGone) {
+TEST_F(Recorders, InputThatFallsSilentForGood_CountsAsGone) {
   ASSERT_TRUE(Start().ok());
+  Record(UniqueFrames(1024, 7));
   EXPECT_TRUE(Await(5s, [&] { return !recorder_.recording(); }));
   EXPECT_THAT(recorder_.Trouble(), HasSubstr("input has gone"));
 }

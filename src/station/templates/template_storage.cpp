@@ -48,7 +48,8 @@ bool TemplateEditor::OpenTemplate() {
   if (!content.ok()) return TellUnreadable(content.status());
   events_ = ReadableEvents(content.value());
   const bool terminated = !events_.empty() && events_.back() == TemplateEvent{};
-  if (StopsInMidRecord(content.value()) || !terminated) {
+  const bool torn = StopsInMidRecord(content.value());
+  if (torn || !terminated) {
     platform.dialogs.MessageBox(
         "This template may contain data abnormalities.  Loading will\n"
         "continue, but please note that you may have difficulty using\n"
@@ -56,7 +57,8 @@ bool TemplateEditor::OpenTemplate() {
             TemplateName,
         box_style::kCritical, "Possible Data Corruption");
   }
-  if (terminated) events_.pop_back();
+  // The last record ends the template, and where it is an event the box has told of it: wanted.
+  if (!torn && !events_.empty()) events_.pop_back();
   if (events_.size() > TemplateEntries::kMost) events_.resize(TemplateEntries::kMost);
   return true;
 }

