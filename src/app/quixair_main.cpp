@@ -8,6 +8,7 @@
 #include "desktop/program_icon.h"
 #include "desktop/program_table.h"
 #include "desktop/qt_dialogs.h"
+#include "desktop/qt_printer.h"
 #include "desktop/qt_timers.h"
 #include "desktop/session_entry.h"
 #include "desktop/termination_signals.h"
@@ -38,6 +39,7 @@ int main(int argc, char** argv) {
   desktop::QtDialogs dialogs;
   EventGate gate(dialogs);
   dialogs.Attach(gate);
+  desktop::QtPrinter printer(dialogs);
   desktop::HostPrograms programs(desktop::ProgramTable::Load(configuration / "programs.conf", HomeFolder()),
                                  files, dialogs);
   desktop::SessionEntry session_start(configuration.parent_path() / "autostart",
@@ -46,8 +48,8 @@ int main(int argc, char** argv) {
   sound::SoundSystem sound({sound::SoundSystem::Drive::kDevice, std::move(drivers.output)});
   sound::CaptureSystem capture(std::move(drivers.input), configuration / "recorder.conf");
   ScreenRegistry screens(StationScreens());
-  const Platform platform{clock,    timers,        files,  sound,   capture, dialogs,
-                          programs, session_start, random, screens, gate};
+  const Platform platform{clock,   timers,   files,         sound,  capture, dialogs,
+                          printer, programs, session_start, random, screens, gate};
   screens.Attach(platform);
 
   desktop::ThemeSwitch theme(application, configuration / "desktop.conf");

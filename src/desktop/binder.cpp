@@ -15,6 +15,12 @@ bool RepaintRunning() {
   return repaints_running > 0;
 }
 
+void LetEventsIn() {
+  ++repaints_running;
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  --repaints_running;
+}
+
 Binder::Binder(Screen& screen, QWidget& form) : screen_(&screen) {
   flush_timer_.setSingleShot(true);
   flush_timer_.setInterval(0);
@@ -100,9 +106,7 @@ void Binder::VisibilityChanged(Screen&) {
 
 void Binder::Repaint(Screen&) {
   Flush();
-  ++repaints_running;
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-  --repaints_running;
+  LetEventsIn();
 }
 
 }  // namespace quixair::desktop

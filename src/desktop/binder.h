@@ -56,6 +56,8 @@ class Binder : public ScreenObserver {
 /// cannot show it, a widget without a control, a control outside its frame.
 std::vector<std::string> FormFaults(Screen& screen, QWidget& form);
 
+/// Lets timers and the window system in, but no act of a person, while a step goes on.
+void LetEventsIn();
 /// True while a repaint in the middle of a step lets the window system in: no window may be closed then.
 bool RepaintRunning();
 

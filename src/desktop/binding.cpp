@@ -11,9 +11,11 @@
 #include <QRadioButton>
 #include <QToolButton>
 
+#include "desktop/grid_table.h"
 #include "desktop/row_list.h"
 #include "desktop/station_text.h"
 #include "desktop/views/transport_bar.h"
+#include "station/platform/grid.h"
 
 namespace quixair::desktop {
 namespace {
@@ -165,6 +167,26 @@ class ListBinding : public Binding {
   RowList& widget_;
 };
 
+class GridBinding : public Binding {
+ public:
+  GridBinding(Grid& grid, GridTable& widget) : Binding(grid, widget), widget_(widget) {
+    widget.SetSource(&grid);
+  }
+  ~GridBinding() override { widget_.SetSource(nullptr); }
+
+  void Leave() override {
+    Binding::Leave();
+    widget_.SetSource(nullptr);
+  }
+
+ protected:
+  void ShowColumns() override { widget_.ShowColumns(); }
+  void ShowRows() override { widget_.ResetRows(); }
+
+ private:
+  GridTable& widget_;
+};
+
 class DriveBinding : public Binding {
  public:
   DriveBinding(DriveListBox& drives, QComboBox& widget)
@@ -237,6 +259,7 @@ void Binding::Apply() {
   const unsigned marked = std::exchange(marked_, 0);
   const auto is_marked = [marked](Aspect aspect) { return (marked & Bit(aspect)) != 0; };
   if (is_marked(Aspect::kText)) ShowText();
+  if (is_marked(Aspect::kColumns)) ShowColumns();
   if (is_marked(Aspect::kRows)) ShowRows();
   if (is_marked(Aspect::kSelection)) ShowSelection();
   if (is_marked(Aspect::kTopRow)) ShowTopRow();
@@ -293,6 +316,8 @@ std::unique_ptr<Binding> Bind(Control& control, QWidget& widget) {
       return BindAs<FrameBinding, Frame, QWidget>(control, widget);
     case ControlKind::kMedia:
       return BindAs<MediaBinding, MediaControl, TransportBar>(control, widget);
+    case ControlKind::kGrid:
+      return BindAs<GridBinding, Grid, GridTable>(control, widget);
     case ControlKind::kTimer:
     case ControlKind::kRecorder:
     case ControlKind::kMenu:

@@ -36,6 +36,7 @@ class Binding : public QObject {
   virtual void ShowRows() {}
   virtual void ShowSelection() {}
   virtual void ShowTopRow() {}
+  virtual void ShowColumns() {}
   virtual void ShowTicked() {}
   virtual void ShowTransport() {}
   /// Runs the act of a person unless the control is gone.

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QUiLoader>
 
+#include "desktop/grid_table.h"
 #include "desktop/row_list.h"
 #include "desktop/station_text.h"
 #include "desktop/views/big_clock.h"
@@ -21,6 +22,7 @@ namespace {
 
 QWidget* MakeCustom(const QString& class_name, QWidget* parent) {
   if (class_name == QLatin1String("QListView")) return new RowList(parent);
+  if (class_name == QLatin1String("QTableView")) return new GridTable(parent);
   if (class_name == QLatin1String("FittedLabel")) return new FittedLabel(parent);
   if (class_name == QLatin1String("TransportBar")) return new TransportBar(parent);
   if (class_name == QLatin1String("BigClock")) return new BigClock(parent);

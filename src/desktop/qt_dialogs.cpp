@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QTimer>
 
+#include "desktop/binder.h"
 #include "desktop/station_text.h"
 #include "station/platform/event_gate.h"
 
@@ -120,6 +121,11 @@ int QtDialogs::Run(QDialog& box) {
   std::erase(open_, &box);
   if (gate_ != nullptr) gate_->LeaveIfEnded();
   return result;
+}
+
+void QtDialogs::LetTimersRun() const {
+  LetEventsIn();
+  if (gate_ != nullptr) gate_->LeaveIfEnded();
 }
 
 QWidget* QtDialogs::Over() const {

@@ -29,13 +29,17 @@ class QtDialogs : public Dialogs {
   std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
   std::optional<RecordingFormat> FormatBox(const RecordingFormat& initial) override;
 
+  /// Runs a window of the desktop's own as these boxes run.
+  int Run(QDialog& box);
+  /// The window that boxes open over; none while it is hidden.
+  QWidget* Over() const;
+  /// In the middle of a long step that no act of a person may disturb.
+  void LetTimersRun() const;
+
   /// At the program's end.
   void CloseAll();
 
  private:
-  int Run(QDialog& box);
-  QWidget* Over() const;
-
   EventGate* gate_ = nullptr;
   QPointer<QWidget> parent_;
   std::vector<QDialog*> open_;

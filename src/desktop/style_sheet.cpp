@@ -53,14 +53,17 @@ QToolButton { border: 1px solid transparent; border-radius: 4px; padding: 2px; }
 QToolButton:hover { background: @hover; border-color: @line; }
 QToolButton[role="switch"] { padding: 2px 10px; border-color: @line; }
 
-QLineEdit, QPlainTextEdit, QListView {
+QLineEdit, QPlainTextEdit, QListView, QTableView {
   background: @base; color: @text; border: 1px solid @line; border-radius: 4px;
   selection-background-color: @accent; selection-color: @accent_text; }
 QLineEdit { padding: 3px 6px; }
-QLineEdit:focus, QPlainTextEdit:focus, QListView:focus { border: 2px solid @accent; }
+QLineEdit:focus, QPlainTextEdit:focus, QListView:focus, QTableView:focus { border: 2px solid @accent; }
 QLineEdit:focus { padding: 2px 5px; }
 QLineEdit:read-only, QListView:disabled { background: @panel; }
-QListView { outline: 0; }
+QListView, QTableView { outline: 0; }
+QTableView { alternate-background-color: @panel; }
+QHeaderView { background: @bar; }
+QHeaderView::section { background: @bar; color: @muted; border: none; border-bottom: 1px solid @line; padding: 4px 5px; }
 QListView::item { border: none; padding: 1px 5px; }
 QListView::item:hover { background: @hover; }
 QListView::item:selected { background: @accent; color: @accent_text; }

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "station/platform/controls.h"
+#include "station/platform/grid.h"
 #include "station/platform/screen.h"
 #include "station/platform/text.h"
 
@@ -39,6 +40,17 @@ std::string StateOf(const Control& control) {
     }
   }
   return state + " fore=" + ColorName(control.fore_color()) + " back=" + ColorName(control.back_color());
+}
+
+/// Of the columns that a person sees.
+std::string ShownCells(const Grid& grid, const GridRow& row) {
+  std::string text;
+  for (std::size_t i = 0; i < row.size(); ++i) {
+    if (grid.columns()[i].pixels == 0) continue;
+    if (!text.empty()) text += " | ";
+    text += ToUtf8(row[i]);
+  }
+  return text;
 }
 
 }  // namespace
@@ -273,6 +285,11 @@ void ScriptRunner::ShowStatement(const Arguments& words) {
   }
   const Control& control = ControlNamed(words[0]);
   out_ << "show " << control.screen().name() << '.' << control.name();
+  if (const auto* grid = dynamic_cast<const Grid*>(&control)) {
+    out_ << ' ' << grid->row_count() << " rows\n";
+    for (const GridRow& row : grid->rows()) out_ << "  | " << ShownCells(*grid, row) << '\n';
+    return;
+  }
   const auto* list = dynamic_cast<const ListBox*>(&control);
   if (list == nullptr) {
     out_ << ' ' << Quoted(control.shown_text()) << '\n';

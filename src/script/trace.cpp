@@ -47,6 +47,7 @@ Trace::Trace(simulation::SimulatedStation& station, std::ostream& out) : station
     Event("run " + Quoted(command_line) + ' ' + NameOf(window));
   };
   station.programs().on_keys = [this](const std::string& keys) { Event("keys " + Quoted(keys)); };
+  station.printer().on_print = [this](const simulation::PrintJob& job) { Print(job); };
   station.session_start().on_set = [this](bool starts) {
     Event(std::string("session start ") + (starts ? "on" : "off"));
   };
@@ -67,6 +68,15 @@ void Trace::Box(const simulation::ShownBox& box) {
   } else {
     Event("box " + std::to_string(box.style) + ' ' + Quoted(box.title) + ' ' + Quoted(box.text) + " -> " +
           box.answer);
+  }
+}
+
+void Trace::Print(const simulation::PrintJob& job) {
+  if (quiet_) return;
+  Event("print " + Quoted(job.title) + ' ' + std::to_string(job.pages.size()) + " pages -> " +
+        std::string(simulation::NameOf(job.outcome)));
+  for (const PrintedPage& page : job.pages) {
+    for (const std::string& line : page) out_ << "  | " << ToUtf8(line) << '\n';
   }
 }
 

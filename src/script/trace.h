@@ -18,6 +18,7 @@ class Trace {
  private:
   void Event(const std::string& text);
   void Box(const simulation::ShownBox& box);
+  void Print(const simulation::PrintJob& job);
   void Channel(const simulation::ChannelEvent& event);
 
   simulation::SimulatedStation& station_;

@@ -14,6 +14,7 @@ SimulatedStation::Program::Program(SimulatedStation& station)
                .media = station.media_,
                .capture = station.capture_,
                .dialogs = station.dialogs_,
+               .printer = station.printer_,
                .programs = station.programs_,
                .session_start = station.session_start_,
                .random = station.random_,

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "simulation/scripted_dialogs.h"
+#include "simulation/scripted_printer.h"
 #include "simulation/simulated_capture.h"
 #include "simulation/simulated_media.h"
 #include "simulation/virtual_time.h"
@@ -48,6 +49,7 @@ class SimulatedStation {
   SimulatedMedia& media() { return media_; }
   SimulatedCapture& capture() { return capture_; }
   ScriptedDialogs& dialogs() { return dialogs_; }
+  ScriptedPrinter& printer() { return printer_; }
   NotedPrograms& programs() { return programs_; }
   NotedSessionStart& session_start() { return session_start_; }
   /// Of the running program.
@@ -75,6 +77,7 @@ class SimulatedStation {
   SimulatedMedia media_;
   SimulatedCapture capture_;
   ScriptedDialogs dialogs_;
+  ScriptedPrinter printer_;
   NotedPrograms programs_;
   NotedSessionStart session_start_;
   EngineRandom random_;

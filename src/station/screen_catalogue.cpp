@@ -27,6 +27,8 @@
 #include "station/templates/remove_sat_spot.h"
 #include "station/templates/transfer_template.h"
 #include "station/utilities/erase_utility.h"
+#include "station/utilities/print_recordings.h"
+#include "station/utilities/print_template.h"
 
 namespace quixair {
 namespace {
@@ -65,6 +67,9 @@ ScreenRegistry::Catalogue StationScreens() {
       {"PickListForm2", Make<PickListForm2>},
       {"NotBuilt", Make<NotBuilt>},
       {"PickPlayTemplate", Make<PickPlayTemplate>},
+      {"PrintPickListTemplate", Make<PrintPickListTemplate>},
+      {"PrintRecordingsMDI", Make<PrintRecordingsMDI>},
+      {"PrintSatTemplateMDI", Make<PrintSatTemplateMDI>},
       {"QXHelp", Make<QXHelp>},
       {"RandomForm1", Make<RandomForm1>},
       {"RandomForm2", Make<RandomForm2>},

@@ -174,6 +174,25 @@ TEST_F(BinderTest, EnterOnAFolder_GoesIn) {
   EXPECT_EQ(form_.folders->model()->index(0, 0).data().toString(), QStringLiteral(".."));
 }
 
+TEST_F(BinderTest, GridShowsItsColumnsAndRows) {
+  screen_->Grid1.SetColumns({{"Number", 50}, {"Key", 0}, {"Title", 100}});
+  screen_->Grid1.SetRows({{"1", "b", "Caf\xE9"}, {"2", "a"}});
+  Bind();
+  const QAbstractItemModel& cells = *form_.grid->model();
+  EXPECT_EQ(cells.headerData(2, Qt::Horizontal).toString(), QStringLiteral("Title"));
+  EXPECT_TRUE(form_.grid->isColumnHidden(1));
+  EXPECT_FALSE(form_.grid->isColumnHidden(2));
+  EXPECT_GE(form_.grid->columnWidth(2), 100);
+  EXPECT_EQ(cells.index(0, 2).data().toString(), QStringLiteral("Café"));
+  screen_->Grid1.SortBy(1);
+  binder_->Flush();
+  EXPECT_EQ(cells.index(0, 0).data().toString(), QStringLiteral("2"));
+  screen_->Grid1.RemoveRows(0, 0);
+  EXPECT_FALSE(cells.index(1, 0).data().isValid()) << "looked at before the change is shown";
+  binder_->Flush();
+  EXPECT_EQ(cells.rowCount(), 1);
+}
+
 TEST_F(BinderTest, TickTakenBackByTheStation_ShowsUnticked) {
   screen_->Check1.on_click = [this] { screen_->Check1.Tick(false); };
   Bind();

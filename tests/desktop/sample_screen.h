@@ -12,8 +12,10 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "desktop/grid_table.h"
 #include "desktop/row_list.h"
 #include "desktop/views/transport_bar.h"
+#include "station/platform/grid.h"
 #include "station/platform/screen.h"
 
 namespace quixair::testing {
@@ -34,6 +36,7 @@ class SampleScreen : public Screen {
   Frame Frame1{*this, "Frame1", "Options"};
   OptionButton Option1{Frame1, "Option(0)", "First"};
   OptionButton Option2{Frame1, "Option(1)", "Second"};
+  Grid Grid1{*this, "Grid1"};
   MediaControl MMControl1{*this, "MMControl1", 1};
   Timer Timer1{*this, "Timer1"};
 };
@@ -53,6 +56,7 @@ struct SampleForm {
   QGroupBox* frame;
   QRadioButton* first;
   QRadioButton* second;
+  desktop::GridTable* grid;
   desktop::TransportBar* bar;
 };
 
@@ -79,6 +83,7 @@ inline SampleForm::SampleForm() {
   new QVBoxLayout(frame);
   first = AddWidget<QRadioButton>(*frame, "Option_0");
   second = AddWidget<QRadioButton>(*frame, "Option_1");
+  grid = AddWidget<desktop::GridTable>(root, "Grid1");
   bar = AddWidget<desktop::TransportBar>(root, "MMControl1");
   root.resize(400, 700);
 }

@@ -8,19 +8,13 @@
 namespace quixair {
 namespace {
 
-/// A number as text in its shortest decimal form.
-std::string Plain(double value) {
-  std::string text = FixedDecimals(value, 6);
-  text.erase(text.find_last_not_of('0') + 1);
-  if (text.ends_with('.')) text.pop_back();
-  return text;
-}
+constexpr int kPlainDecimals = 6;
 
 /// Of the minutes' hundredths: a whole number of seconds and the point of its format.
 std::string SecondsText(double minutes) {
   const std::string text = FixedDecimals(minutes, 2);
   const double seconds = NumericValue(std::string_view(text).substr(text.size() - 2)) * 60 / 100;
-  return FixedDecimals(NumericValue(Plain(seconds).substr(0, 3)), 0) + '.';
+  return FixedDecimals(NumericValue(ShortestDecimal(seconds, kPlainDecimals).substr(0, 3)), 0) + '.';
 }
 
 }  // namespace
@@ -38,7 +32,8 @@ std::array<std::string, 2> LineupTexts(int total_seconds) {
   std::string hours = FixedDecimals(minutes / 60, 4);
   if (hours.find('.') < 2) hours.insert(0, 1, '0');  // "00.0000"
   const std::string_view fraction = std::string_view(hours).substr(hours.size() - 4);
-  const std::string minutes_text = Plain(NumericValue(fraction) * 0.006).substr(0, 2);
+  const std::string minutes_text =
+      ShortestDecimal(NumericValue(fraction) * 0.006, kPlainDecimals).substr(0, 2);
   return {std::to_string(total_seconds) + " Seconds",
           hours.substr(0, 2) + "h " + minutes_text + "m " + SecondsText(minutes) + 's'};
 }

@@ -52,6 +52,8 @@ std::string_view NameOf(ControlKind kind) {
       return "Recorder";
     case ControlKind::kMedia:
       return "MediaControl";
+    case ControlKind::kGrid:
+      return "Grid";
     case ControlKind::kMenu:
       return "Menu";
   }

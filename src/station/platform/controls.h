@@ -47,6 +47,7 @@ enum class ControlKind {
   kTimer,
   kMedia,
   kRecorder,
+  kGrid,
   kMenu
 };
 std::string_view NameOf(ControlKind kind);
@@ -72,7 +73,8 @@ enum class Aspect {
   kFocus,
   kHint,
   kTransport,
-  kTopRow
+  kTopRow,
+  kColumns
 };
 
 /// What controls can lie in: a screen or one of its frames.

@@ -11,6 +11,7 @@ class Dialogs;
 class EventGate;
 class Files;
 class Media;
+class Printer;
 class Programs;
 class RandomSource;
 class Screens;
@@ -24,6 +25,7 @@ struct Platform {
   Media& media;
   Capture& capture;
   Dialogs& dialogs;
+  Printer& printer;
   Programs& programs;
   SessionStart& session_start;
   RandomSource& random;

@@ -132,11 +132,15 @@ std::string FixedDecimals(double value, int decimals) {
   return {buffer.data(), end.ptr};
 }
 
-std::string ShortestSeconds(long milliseconds) {
-  std::string text = FixedDecimals(static_cast<double>(milliseconds) / 1000.0, 3);
+std::string ShortestDecimal(double value, int most_decimals) {
+  std::string text = FixedDecimals(value, most_decimals);
   while (text.back() == '0') text.pop_back();
   if (text.back() == '.') text.pop_back();
   return text;
+}
+
+std::string ShortestSeconds(long milliseconds) {
+  return ShortestDecimal(static_cast<double>(milliseconds) / 1000.0, 3);
 }
 
 std::string ToUtf8(std::string_view code_page_text) {

@@ -28,6 +28,8 @@ int WholeValue(std::string_view text);
 
 /// Fixed decimals, "0.0" or "0.00"; halves are rounded away from zero.
 std::string FixedDecimals(double value, int decimals);
+/// The shortest decimal form of at most so many decimals: "0.5", "12".
+std::string ShortestDecimal(double value, int most_decimals);
 /// Milliseconds as seconds in the shortest decimal form: 30015 gives "30.015", 30000 gives "30".
 std::string ShortestSeconds(long milliseconds);
 

@@ -1,16 +1,12 @@
 #include "station/recording/artist_title.h"
 
 #include "station/console/station_paths.h"
-#include "station/platform/clock.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/files.h"
 
 namespace quixair {
 namespace {
 
-constexpr std::chrono::milliseconds kBetweenPortions{5};
-constexpr std::chrono::milliseconds kPortionTime{15};
-constexpr std::size_t kPortion = 200;
 constexpr std::size_t kFewest = 2;
 constexpr int kNameLimit = 20;
 constexpr int kYearLimit = 4;
@@ -31,7 +27,6 @@ ArtistTitle::ArtistTitle(const Platform& platform) : Screen(platform, "ArtistTit
   Command1.on_click = [this] { SaveItem(); };
   Command2.on_click = [this] { Unload(); };
   Command3.on_click = [this] { ShowHelp(); };
-  Timer1.on_tick = [this] { ReadPortion(); };
 }
 
 void ArtistTitle::Load() {
@@ -49,23 +44,22 @@ void ArtistTitle::Load() {
        std::initializer_list<Control*>{&List1, &artisttext, &titletext, &RotationText, &fromyeartext}) {
     control->Disable();
   }
-  Timer1.SetInterval(kBetweenPortions);
-  ReadPortion();
+  reading_.Start({.step = [this] { return ReadSong(); },
+                  .progress =
+                      [this] {
+                        Text2.SetText("Reading the songs: " + std::to_string(read_) + " of " +
+                                      std::to_string(songs_.size()));
+                      },
+                  .done = [this] { ShowAll(); }});
 }
 
-void ArtistTitle::ReadPortion() {
-  const SteadyTime began = platform_.clock.Steady();
-  for (std::size_t i = 0; i < kPortion && read_ < songs_.size(); ++i) {
-    Song& song = songs_[read_++];
-    song.record = MusicFieldsOf(platform_.files.Read(PathOf(song.file)).value_or({}));
-    if (platform_.clock.Steady() - began > kPortionTime) break;
-  }
-  if (read_ == songs_.size()) return ShowAll();
-  Text2.SetText("Reading the songs: " + std::to_string(read_) + " of " + std::to_string(songs_.size()));
+bool ArtistTitle::ReadSong() {
+  Song& song = songs_[read_++];
+  song.record = MusicFieldsOf(platform_.files.Read(PathOf(song.file)).value_or({}));
+  return read_ < songs_.size();
 }
 
 void ArtistTitle::ShowAll() {
-  Timer1.SetInterval(std::chrono::milliseconds(0));
   std::vector<std::string> rows;
   rows.reserve(songs_.size());
   for (const Song& song : songs_) rows.push_back(song.file + "  ");

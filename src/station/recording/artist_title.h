@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "station/library/recording_file.h"
+#include "station/platform/portioned_work.h"
 #include "station/platform/screen.h"
 
 namespace quixair {
@@ -41,7 +42,8 @@ class ArtistTitle : public Screen {
     std::string file;
     MusicRecord record;
   };
-  void ReadPortion();
+  /// The next one; true while more are left.
+  bool ReadSong();
   void ShowAll();
   void LoadSelected();
   void SaveItem();
@@ -51,6 +53,7 @@ class ArtistTitle : public Screen {
   std::vector<Song> songs_;  // in the folder's order
   std::size_t read_ = 0;     // of them
   std::size_t loaded_ = 0;   // the one in the boxes
+  PortionedWork reading_{Timer1};
 };
 
 }  // namespace quixair

@@ -2,17 +2,8 @@
 
 #include <utility>
 
-#include "station/platform/clock.h"
-
 namespace quixair {
 namespace {
-
-using std::chrono::milliseconds;
-
-// The air polls its channels five times a second: a portion must end well within that.
-constexpr double kPortionSeconds = 0.02;
-constexpr int kPortionSteps = 250;
-constexpr milliseconds kBetweenPortions{5};
 
 bool CanAct(const Control& control) {
   switch (control.kind()) {
@@ -44,7 +35,6 @@ EventListScreen::EventListScreen(const Platform& platform, const EventListKind& 
   for (const Library& library : libraries_) {
     library.button.on_click = [this, &list = library.list] { ShowLibrary(list); };
   }
-  LoadTimer.on_tick = [this] { LoadPortion(); };
 }
 
 ListBox& EventListScreen::shown_library() {
@@ -70,25 +60,20 @@ void EventListScreen::ListLibrary() {
 
 void EventListScreen::StartLoading() {
   loading_ = true;
+  left_ = false;
   HoldControls();
-  LoadPortion();  // a small library is there at once
-  if (loading_) LoadTimer.SetInterval(kBetweenPortions);
-}
-
-void EventListScreen::LoadPortion() {
-  const Clock& clock = platform_.clock;
-  const SteadyTime begun = clock.Steady();
-  for (int step = 0; step < kPortionSteps; ++step) {
-    if (SecondsBetween(begun, clock.Steady()) >= kPortionSeconds) return;
-    switch (LoadStep()) {
-      case Step::kMore:
-        break;
-      case Step::kDone:
-        return FinishLoading();
-      case Step::kLeft:
-        return Unload();
-    }
-  }
+  load_.Start({.step =
+                   [this] {
+                     const Step step = LoadStep();
+                     left_ = step == Step::kLeft;
+                     return step == Step::kMore;
+                   },
+               .progress = {},
+               .done =
+                   [this] {
+                     if (left_) return Unload();
+                     FinishLoading();
+                   }});
 }
 
 EventListScreen::Step EventListScreen::LoadStep() {
@@ -103,7 +88,6 @@ EventListScreen::Step EventListScreen::LoadStep() {
 }
 
 void EventListScreen::FinishLoading() {
-  LoadTimer.SetInterval(milliseconds(0));
   loading_ = false;
   for (Library& library : libraries_) library.list.SetRows(library.files.TakeRows());
   Text3.SetText(CountsText());

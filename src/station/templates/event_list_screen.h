@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "station/platform/portioned_work.h"
 #include "station/platform/screen.h"
 #include "station/templates/editor_library.h"
 
@@ -96,7 +97,6 @@ class EventListScreen : public Screen {
   std::string CountsText() const;
 
  private:
-  void LoadPortion();
   Step LoadStep();
   void FinishLoading();
   void HoldControls();
@@ -105,6 +105,8 @@ class EventListScreen : public Screen {
   std::array<Library, 3> libraries_;
   std::vector<Control*> held_;
   bool loading_ = false;
+  bool left_ = false;  // the operator would rather not go on
+  PortionedWork load_{LoadTimer};
 };
 
 }  // namespace quixair

@@ -37,7 +37,8 @@ class Registry : public StationFixture, public ScreensObserver {
     station_.StartProgram();
     const Platform& p = station_.platform();
     platform_ = std::make_unique<Platform>(Platform{p.clock, p.timers, p.files, p.media, p.capture, p.dialogs,
-                                                    p.programs, p.session_start, p.random, screens_, p.gate});
+                                                    p.printer, p.programs, p.session_start, p.random,
+                                                    screens_, p.gate});
     screens_.Attach(*platform_);
     screens_.set_observer(this);
   }

@@ -1,0 +1,161 @@
+#include "station/utilities/library_report.h"
+
+#include <algorithm>
+
+namespace quixair {
+namespace {
+
+using As = PrintedColumn::As;
+
+constexpr int kNumberTwips = 750;
+
+const LibraryReport kSpots = {
+    .kind = RecordingKind::kSpot,
+    .pattern = "S*.DAT",
+    .singular = "Spot",
+    .plural = "Spots",
+    .fields = kSpotFields,
+    .shown = {{"Filename", 1000, 1},
+              {"Account", 1500, 3},
+              {"Title", 1500, 4},
+              {"Length", 900, 0},
+              {"Start Date", 900, 5},
+              {"Kill Date", 1000, 6},
+              {"Prod.", 500, 7},
+              {"Annc.", 500, 8},
+              {"Drive", 500, 2}},
+    .name_field = 3,
+    .title_field = 4,
+    .title = "Quixair SPOT Listings    -  Created on: ",
+    .after_date = "    Page: ",
+    .heads = " I.D.      Account         Title             Len.  (Min.)  Start    Kill  P A D ",
+    .printed = {{{6}, 1},
+                {{13, Fit::kLabel}, 2},
+                {{29, Fit::kLabel}, 3},
+                {{45, Fit::kLength}, 4},
+                {{51}, 4, As::kMinutes},
+                {{57}, 5},
+                {{66}, 6},
+                {{75}, 7},
+                {{77}, 8},
+                {{79}, 9}}};
+
+const LibraryReport kMusic = {
+    .kind = RecordingKind::kMusic,
+    .pattern = "M*.DAT",
+    .singular = "Music",
+    .plural = "Music",
+    .fields = kMusicFields,
+    .shown = {{"Filename", 1000, 1},
+              {"Artist", 2000, 3},
+              {"Title", 2000, 4},
+              {"Length", 900, 0},
+              {"Start Date", 900, 6},
+              {"From", 600, 7},
+              {"Rotat", 500, 5},
+              {"Drive", 500, 2}},
+    .name_field = 3,
+    .title_field = 4,
+    .title = "  The Quixair MUSIC Listings     -  Created on: ",
+    .after_date = "    Page: ",
+    .heads = "     I.D.         Artist            Title        Len.   (Min.)   Start  From  Dr",
+    .printed = {{{7}, 1},
+                {{14, Fit::kLabel}, 2},
+                {{32, Fit::kLabel}, 3},
+                {{50, Fit::kLength}, 4},
+                {{57}, 4, As::kMinutes},
+                {{64}, 5},
+                {{73}, 6},
+                {{79}, 8}}};
+
+const LibraryReport kLiners = {
+    .kind = RecordingKind::kLiner,
+    .pattern = "L*.DAT",
+    .singular = "Liner",
+    .plural = "Liners",
+    .fields = kLinerFields,
+    .shown = {{"Filename", 1000, 1},
+              {"Title", 2000, 3},
+              {"Announcer", 1000, 4},
+              {"Type", 500, 5},
+              {"Length", 900, 0},
+              {"Start Date", 900, 6},
+              {"Kill Date", 1000, 7},
+              {"Drive", 500, 2}},
+    .name_field = 4,
+    .title_field = 3,
+    .title = "  The Quixair LINER Listings     -  Created: ",
+    .after_date = "   Page: ",
+    .heads = "     I.D.    Description      Anc Typ Len.  (Min.)    Start      Kill    Dr",
+    .printed = {{{6}, 1},
+                {{13, Fit::kLabel}, 2},
+                {{34}, 3},
+                {{37}, 4},
+                {{40, Fit::kLength}, 5},
+                {{46}, 5, As::kMinutes},
+                {{54}, 6},
+                {{64}, 7},
+                {{75}, 8}}};
+
+std::vector<std::string> HeadOf(const LibraryReport& report, const std::string& date, int page) {
+  const std::string rule(kPageColumns, '-');
+  return {std::string(kPageColumns, '^'), report.title + date + report.after_date + std::to_string(page),
+          rule, report.heads, rule};
+}
+
+std::vector<TabbedText> EntryOf(const LibraryReport& report, const GridRow& row) {
+  const auto shown_end = row.begin() + static_cast<std::ptrdiff_t>(report.shown.size()) + 1;
+  const bool empty =
+      std::all_of(row.begin() + 1, shown_end, [](const std::string& cell) { return cell.empty(); });
+  std::vector<TabbedText> texts = {{1, row[kNumberColumn]}};
+  if (empty) return texts;
+  std::vector<ReportColumn> columns;
+  std::vector<std::string> values;
+  for (const PrintedColumn& printed : report.printed) {
+    columns.push_back(printed.column);
+    const std::string& cell = row[printed.cell];
+    values.push_back(printed.as == As::kMinutes ? '(' + MinutesText(cell) + ')' : cell);
+  }
+  for (TabbedText& text : Fitted(columns, values)) texts.push_back(std::move(text));
+  return texts;
+}
+
+}  // namespace
+
+const LibraryReport& LibraryReportOf(RecordingKind kind) {
+  return kind == RecordingKind::kSpot ? kSpots : kind == RecordingKind::kMusic ? kMusic : kLiners;
+}
+
+std::vector<GridColumn> GridColumnsOf(const LibraryReport& report) {
+  std::vector<GridColumn> columns(kGridColumns);
+  columns[kNumberColumn].pixels = PixelsFromTwips(kNumberTwips);
+  for (std::size_t i = 0; i < report.shown.size(); ++i) {
+    columns[i + 1] = {report.shown[i].head, PixelsFromTwips(report.shown[i].twips)};
+  }
+  return columns;
+}
+
+GridRow LibraryRow(const LibraryReport& report, Files& files, const std::string& id) {
+  GridRow row(kGridColumns);
+  row[kFileNameKey] = id;
+  const Result<std::vector<std::string>> read = ReadRecordFields(files, id, report.fields);
+  SkipAndGoOn(read);
+  if (!read.ok()) return row;
+  const std::vector<std::string>& fields = read.value();
+  for (std::size_t i = 0; i < report.shown.size(); ++i) row[i + 1] = fields[report.shown[i].field];
+  row[kNameKey] = fields[report.name_field];
+  row[kTitleKey] = fields[report.title_field];
+  return row;
+}
+
+std::vector<PrintedPage> LibraryPages(const LibraryReport& report, const std::vector<GridRow>& rows,
+                                      const std::string& date) {
+  ReportPages pages([&report, &date](int page) { return HeadOf(report, date, page); });
+  for (const GridRow& row : rows) {
+    if (pages.page_full()) pages.NewPage();
+    pages.AddEntry(EntryOf(report, row));
+  }
+  return pages.Take();
+}
+
+}  // namespace quixair

@@ -1,0 +1,50 @@
+#include "station/utilities/print_steps.h"
+
+#include "station/platform/dialogs.h"
+#include "station/platform/text.h"
+
+namespace quixair {
+
+std::optional<PrintRange> TypedRange(const Platform& platform, TextBox& lowest, TextBox& highest, int count,
+                                     MustBeNumber must_be_number) {
+  const PrintRange range{WholeValue(lowest.text()), WholeValue(highest.text())};
+  const bool no_highest = must_be_number == MustBeNumber::kBoth && range.highest < 1;
+  const struct {
+    bool failed;
+    TextBox& box;
+    const char* text;
+  } checks[] = {
+      {range.lowest < 1 || no_highest, range.lowest < 1 ? lowest : highest,
+       "'Lowest' Number is Too Low or\nYou Didn't Enter a Valid Character"},
+      {range.lowest > count, lowest, "'Lowest' Number is Too High"},
+      {range.highest < range.lowest, highest, "'Highest' Number is Less Than 'Lowest' Number"},
+      {range.highest > count, highest, "'Highest' Number is Too High"},
+  };
+  for (const auto& check : checks) {
+    if (!check.failed) continue;
+    platform.dialogs.MessageBox(check.text, box_style::kOk + box_style::kExclamation, "Invalid Entry");
+    check.box.SetText({});
+    check.box.SetFocus();
+    return std::nullopt;
+  }
+  return range;
+}
+
+bool OperatorIsReadyToPrint(const Platform& platform, int icon) {
+  return platform.dialogs.MessageBox("Make sure printer is ready, then press OK", box_style::kOkCancel + icon,
+                                     "Ready to Print") == Answer::kOk;
+}
+
+PrintOutcome PrintPages(const Platform& platform, const std::vector<PrintedPage>& pages,
+                        std::string_view title) {
+  const PrintOutcome outcome = platform.printer.Print(pages, title);
+  if (outcome == PrintOutcome::kFault) {
+    platform.dialogs.MessageBox(
+        "The list was not printed. Check that the printer is on and has paper,\n"
+        "or that the file can be written where you put it. Then print again.",
+        box_style::kOk + box_style::kExclamation, "Not Printed");
+  }
+  return outcome;
+}
+
+}  // namespace quixair
