@@ -65,7 +65,7 @@ class SimulatedCapture::SilentRecorder : public Recorder {
 
   void Stop() override {
     if (!recording_) return;
-    length_ = Position();
+    length_ = SilentRecorder::Position();
     recording_ = false;
     end_->Stop();
     Write(length_);
