@@ -16,7 +16,7 @@ namespace {
 
 using host_file::Descriptor;
 
-constexpr std::size_t kPiece = 512 * 1024;
+constexpr std::size_t kPiece = std::size_t{512} * 1024;
 
 std::string GrowingName(const std::string& name) {
   return name.substr(0, name.rfind('.')) + ".COPYING";
