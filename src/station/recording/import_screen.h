@@ -25,9 +25,9 @@ class ImportScreen : public Screen {
   FileListBox File1{*this, "File1"};                   // the data files
   DriveListBox Drive1{*this, "Drive1"};
   DirListBox Dir1{*this, "Dir1"};
-  FileListBox File2{*this, "File2"};                // the sources
+  FileListBox File2{*this, "File2"};                               // the sources
   MediaControl MMControl1{*this, "MMControl1", kAuditionChannel};  // measures; not shown
-  Timer Timer1{*this, "Timer1"};                    // the steps of an import
+  Timer Timer1{*this, "Timer1"};                                   // the steps of an import
 
  protected:
   /// Locks the screen for an import, or gives it back.

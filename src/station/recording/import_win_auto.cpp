@@ -140,7 +140,13 @@ void ImportWinAuto::Import() {
   }
   SaveSettings();
   const IdConvention convention = Option1.selected() ? IdConvention::kAlphabetic : IdConvention::kNumeric;
-  run_.emplace(SongIds(platform_.files, convention));
+  run_.emplace(Run{.ids = SongIds(platform_.files, convention),
+                   .names = {},
+                   .sources = {},
+                   .next = 0,
+                   .imported = 0,
+                   .stop = false,
+                   .left_out = {}});
   std::sort(rows.begin(), rows.end());
   for (const int row : rows) {
     run_->names.push_back(File2.row(row));

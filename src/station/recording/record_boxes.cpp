@@ -39,7 +39,7 @@ void KeepToDigits(TextBox& box) {
   };
 }
 
-void RefuseCharacters(TextBox& box, std::string_view refused, std::function<void(char)> tell) {
+void RefuseCharacters(TextBox& box, std::string_view refused, const std::function<void(char)>& tell) {
   box.on_key_press = [&box, refused, tell](char& key) {
     if (refused.find(key) == std::string_view::npos) return;
     box.SetText({});

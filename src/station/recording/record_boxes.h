@@ -72,7 +72,7 @@ class RecordBoxes {
 void KeepToDigits(TextBox& box);
 /// Empties the box when one of the characters comes into it, and tells which; a box that holds nothing but one
 /// is emptied without a word.
-void RefuseCharacters(TextBox& box, std::string_view refused, std::function<void(char)> tell);
+void RefuseCharacters(TextBox& box, std::string_view refused, const std::function<void(char)>& tell);
 /// Whether its first and its last character are digits, or it is empty.
 bool LooksLikeDigits(std::string_view text);
 

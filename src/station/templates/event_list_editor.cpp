@@ -1,5 +1,7 @@
 #include "station/templates/event_list_editor.h"
 
+#include <cmath>
+
 #include "station/platform/dialogs.h"
 #include "station/platform/text.h"
 
@@ -145,7 +147,7 @@ void EventListEditor::CutRow(int row) {
   CutArmed = 0;
   screen_.List1.Enable();
   EndPrompt();
-  screen_.Text3.SetText(ShortestSeconds(static_cast<long>(seconds * 1000 + 0.5)) + " Seconds cut");
+  screen_.Text3.SetText(ShortestSeconds(std::lround(seconds * 1000)) + " Seconds cut");
   screen_.Text2.SetText("Item " + std::to_string(row + 1) + " was successfully removed...");
 }
 
