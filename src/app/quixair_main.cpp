@@ -58,7 +58,8 @@ int main(int argc, char** argv) {
   screens.set_observer(&frame);
 
   gate.on_fault = [](const std::string& what) { qWarning("an event was lost: %s", what.c_str()); };
-  gate.on_end = [&dialogs](int exit_code) {
+  gate.on_end = [&dialogs, &screens](int exit_code) {
+    screens.ProgramEnds();
     dialogs.CloseAll();
     QApplication::exit(exit_code);
   };

@@ -23,6 +23,7 @@ SimulatedStation::Program::Program(SimulatedStation& station)
   screens.Attach(platform);
   screens.set_observer(this);
   gate.on_end = [this](int exit_code) {
+    screens.ProgramEnds();
     if (owner.on_end) owner.on_end(exit_code);
   };
   gate.on_fault = [this](const std::string& what) {

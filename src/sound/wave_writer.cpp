@@ -6,13 +6,27 @@
 #include <algorithm>
 #include <cerrno>
 #include <cmath>
+#include <cstdio>
+#include <utility>
 
 #include "station/platform/host_file.h"
 
 namespace quixair::sound {
 namespace {
 
-constexpr mode_t kFileMode = 0666;
+/// Puts an empty file of that name in its place and opens it. What was there is not emptied: it may be on the
+/// air, and plays to its end.
+Result<int> OpenAnew(const std::filesystem::path& file) {
+  std::filesystem::path made = file;
+  made.replace_extension(".RECORDING");
+  const int descriptor = ::open(made.c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+  if (descriptor < 0) return host_file::LastError();
+  if (::rename(made.c_str(), file.c_str()) == 0) return descriptor;
+  const RunTimeError fault = host_file::LastError();
+  ::close(descriptor);
+  ::unlink(made.c_str());
+  return fault;
+}
 
 int SubtypeOf(int bits) {
   return bits == 8 ? SF_FORMAT_PCM_U8 : bits == 16 ? SF_FORMAT_PCM_16 : SF_FORMAT_PCM_24;
@@ -33,17 +47,18 @@ WaveWriter::~WaveWriter() {
 
 Status WaveWriter::Open(const std::filesystem::path& file, const RecordingFormat& format) {
   Close();
-  const int descriptor = ::open(file.c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, kFileMode);
-  if (descriptor < 0) return host_file::LastError();
+  const Result<int> descriptor = OpenAnew(file);
+  if (!descriptor.ok()) return descriptor.status();
   SF_INFO info{};
   info.samplerate = format.rate;
   info.channels = format.channels;
   info.format = SF_FORMAT_WAV | SubtypeOf(format.bits);
-  file_ = sf_open_fd(descriptor, SFM_WRITE, &info, SF_TRUE);
+  file_ = sf_open_fd(descriptor.value(), SFM_WRITE, &info, SF_TRUE);
   format_ = format;
   frames_ = 0;
+  folder_ = file.parent_path();
   if (file_ == nullptr) {
-    ::close(descriptor);
+    ::close(descriptor.value());
     return RunTimeError::kPathFileAccess;
   }
   return {};
@@ -70,6 +85,7 @@ Status WaveWriter::Write(std::span<const StereoFrame> frames) {
 void WaveWriter::Update() {
   sf_command(file_, SFC_UPDATE_HEADER_NOW, nullptr, 0);
   sf_write_sync(file_);
+  if (!folder_.empty()) host_file::FlushFolder(std::exchange(folder_, {}));
 }
 
 void WaveWriter::Close() {

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "sound/stereo_frame.h"
@@ -23,7 +24,7 @@ class WaveWriter {
   WaveWriter(const WaveWriter&) = delete;
   WaveWriter& operator=(const WaveWriter&) = delete;
 
-  /// Makes the file or empties the one that is there.
+  /// A file that is there gives its name up, and is whole for those who have it open.
   Status Open(const std::filesystem::path& file, const RecordingFormat& format);
   bool open() const { return file_ != nullptr; }
   /// Both sides are mixed into a mono file. 61 and others when not all of it could be written; what could is
@@ -41,6 +42,7 @@ class WaveWriter {
   RecordingFormat format_;
   std::int64_t frames_ = 0;
   std::vector<int> samples_;
+  std::string folder_;  // its entry of the file is not on the disk yet
 };
 
 /// The sample as the upper `bits` of a whole number, the nearest one, held to the range of the format.

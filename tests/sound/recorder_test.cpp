@@ -1,7 +1,9 @@
 // Recording from an input that does as it is told: to the sample, to the end, and what is left when it breaks.
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sndfile.h>
+#include <unistd.h>
 
 #include <chrono>
 #include <fstream>
@@ -12,6 +14,7 @@
 #include "sound/capture_system.h"
 #include "sound/input_recorder.h"
 #include "sound/sound_files.h"
+#include "station/platform/host_file.h"
 #include "support/outside_programs.h"
 
 namespace quixair::sound {
@@ -182,6 +185,18 @@ TEST_F(Recorders, NoInput_IsToldAndTheFileStaysAsItWas) {
   EXPECT_EQ(std::filesystem::file_size(file_), 17U);
   input_->there = true;
   EXPECT_TRUE(recorder.Start(file_, {}, 1h).ok()) << "Start looks for it at once";
+}
+
+TEST_F(Recorders, RecordingThatIsOnTheAir_PlaysToItsEndWhileItIsRecordedAnew) {
+  files_.Write("S1.WAV", "the old recording");
+  const host_file::Descriptor on_air(::open(file_.c_str(), O_RDONLY | O_CLOEXEC));
+  ASSERT_TRUE(Start().ok());
+  Record(UniqueFrames(20'000, 5));
+  recorder_.Stop();
+  std::string heard(17, ' ');
+  EXPECT_EQ(::pread(on_air.get(), heard.data(), heard.size(), 0), 17);
+  EXPECT_EQ(heard, "the old recording");
+  EXPECT_EQ(ReadRecording(file_).samples.size(), 40'000U);
 }
 
 TEST_F(Recorders, FileThatCannotBeMade_IsTold) {

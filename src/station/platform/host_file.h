@@ -2,8 +2,8 @@
 
 // Reading and writing one file of the host so that neither a full disk nor the end of the program in the
 // middle loses what was there. A file is overwritten where it lies and cut to its new length at the end: at
-// no moment is it empty, which for the restart record would mean a silent morning. The functions below DiskFiles
-// and FileCopy; nothing else uses them.
+// no moment is it empty, which for the restart record would mean a silent morning. What DiskFiles,
+// FileCopy and the sound library stand on.
 
 #include <sys/types.h>
 

@@ -42,6 +42,8 @@ class Screen : public ControlOwner {
   virtual void Load() {}
   /// A person closed the window by its frame; the default unloads.
   virtual void CloseWindow();
+  /// The program ends with this screen open: what must not be lost is saved, with no box.
+  virtual void ProgramEnds() {}
 
   const std::string& name() const { return name_; }
   const std::string& title() const { return title_; }

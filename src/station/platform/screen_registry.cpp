@@ -62,6 +62,10 @@ std::vector<Screen*> ScreenRegistry::OpenScreens() const {
   return screens;
 }
 
+void ScreenRegistry::ProgramEnds() {
+  for (const auto& screen : open_) screen->ProgramEnds();
+}
+
 void ScreenRegistry::CloseAll() {
   while (!open_.empty()) {
     if (observer_ != nullptr) observer_->ScreenClosed(*open_.back());

@@ -57,6 +57,8 @@ class ScreenRegistry : public Screens {
   /// In the order of their opening.
   std::vector<Screen*> OpenScreens() const;
   const Catalogue& catalogue() const { return catalogue_; }
+  /// Tells every screen that the program ends.
+  void ProgramEnds();
   /// Takes every screen away without an event of theirs: the program is gone.
   void CloseAll();
 

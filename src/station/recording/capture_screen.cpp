@@ -23,7 +23,7 @@ CaptureScreen::CaptureScreen(const Platform& platform, const CaptureKind& kind)
       data(*this, LayoutOf(kind.kind), TextBox::Use::kShow),
       kind_(kind),
       layout_(LayoutOf(kind.kind)) {
-  recorder.on_saved = [this](const std::string& seconds) { return WriteDataFile(seconds); };
+  recorder.on_saved = [this](const std::string& seconds) { return Save(seconds); };
   recorder.NowExit.on_click = [this] { BackToEntry(); };
   recorder.CancelButton.on_click = [this] { Erase(); };
 }
@@ -49,17 +49,34 @@ void CaptureScreen::CloseWindow() {
   Unload();
 }
 
-bool CaptureScreen::WriteDataFile(const std::string& seconds) {
+void CaptureScreen::ProgramEnds() {
+  if (!recorder.MMWaveRecorderX.capturing()) return;
+  recorder.on_saved = [this](const std::string& seconds) {
+    SkipAndGoOn(WriteDataFile(seconds));
+    return true;
+  };
+  recorder.Stop();
+}
+
+std::string CaptureScreen::DataPath() {
+  return station_paths::DataFile(ValueOf(values_, layout_, RecordSlot::kId));
+}
+
+Status CaptureScreen::WriteDataFile(const std::string& seconds) {
   ValueOf(values_, layout_, RecordSlot::kLength) = seconds;
   WriteForm form;
   for (const std::string& value : values_) form.Text(value);
   for (int line = 0; line < layout_.empty_lines; ++line) form.Nothing();
+  return platform_.files.Write(DataPath(), form.bytes(), Durability::kFlushed);
+}
+
+bool CaptureScreen::Save(const std::string& seconds) {
+  const Status written = WriteDataFile(seconds);
   data.Show(values_);
-  const std::string path = station_paths::DataFile(ValueOf(values_, layout_, RecordSlot::kId));
-  const Status written = platform_.files.Write(path, form.bytes(), Durability::kFlushed);
   if (written.ok()) return true;
   recorder.Text6.SetText("The data file was not written; the recording is " + recorder.path);
-  TellFileFault(platform_.dialogs, written, "The audio is recorded; its length was not written to " + path);
+  TellFileFault(platform_.dialogs, written,
+                "The audio is recorded; its length was not written to " + DataPath());
   return false;
 }
 
@@ -67,7 +84,7 @@ bool CaptureScreen::WriteDataFile(const std::string& seconds) {
 void CaptureScreen::Erase() {
   const std::string id = ValueOf(values_, layout_, RecordSlot::kId);
   if (!recorder.EraseConfirmed(id)) return;
-  SkipAndGoOn(platform_.files.Delete(station_paths::DataFile(id)));
+  SkipAndGoOn(platform_.files.Delete(DataPath()));
   SkipAndGoOn(platform_.files.Delete(recorder.path));
   BackToEntry();
 }

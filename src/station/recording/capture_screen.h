@@ -27,6 +27,7 @@ class CaptureScreen : public Screen {
   /// Another recording was sent here while this stood open: it is taken, unless a capture runs.
   void PrepareAgain(const ScreenOpening& opening) override;
   void CloseWindow() override;
+  void ProgramEnds() override;
 
   RecordBoxes data;
   RecorderPanel recorder{*this};
@@ -37,7 +38,9 @@ class CaptureScreen : public Screen {
   const RecordLayout& layout() const { return layout_; }
 
  private:
-  bool WriteDataFile(const std::string& seconds);
+  Status WriteDataFile(const std::string& seconds);
+  bool Save(const std::string& seconds);
+  std::string DataPath();
   void Erase();
   void BackToEntry();
 

@@ -147,13 +147,19 @@ TEST_F(CaptureScreens, DataFileThatCannotBeWritten_IsToldAndStopTriesAgain) {
   EXPECT_TRUE(station_.running());
 }
 
-TEST_F(CaptureScreens, WindowClosedInMidCapture_SavesWhatThereIs) {
-  HandOver("RecordASong", "5");
-  Click(kSong, "RecordBtn");
-  Advance(8s);
-  station_.Do([this] { station_.FindScreen(kSong)->CloseWindow(); });
-  EXPECT_THAT(captures_, ElementsAre("M5.WAV began", "M5.WAV 8000"));
-  EXPECT_THAT(FileText("QXDATA/M5.DAT"), StartsWith("\"8.0\"\r\n"));
+TEST_F(CaptureScreens, WindowOrProgramClosedInMidCapture_SavesWhatThereIs) {
+  for (const char* closed : {kSong, "Console"}) {
+    SCOPED_TRACE(closed);
+    captures_.clear();
+    HandOver("RecordASong", "5");
+    Click(kSong, "RecordBtn");
+    Advance(8s);
+    station_.Do([this, closed] { station_.FindScreen(closed)->CloseWindow(); });
+    EXPECT_THAT(captures_, ElementsAre("M5.WAV began", "M5.WAV 8000"));
+    EXPECT_THAT(FileText("QXDATA/M5.DAT"), StartsWith("\"8.0\"\r\n"));
+    std::filesystem::remove(Host("QXDATA/M5.DAT"));
+  }
+  EXPECT_FALSE(station_.running());
 }
 
 TEST_F(CaptureScreens, RecordSentToAnOpenCapture_IsTheOneThatIsRecorded) {
