@@ -59,7 +59,8 @@ QLineEdit, QPlainTextEdit, QListView, QTableView {
 QLineEdit { padding: 3px 6px; }
 QLineEdit:focus, QPlainTextEdit:focus, QListView:focus, QTableView:focus { border: 2px solid @accent; }
 QLineEdit:focus { padding: 2px 5px; }
-QLineEdit:read-only, QListView:disabled { background: @panel; }
+QLineEdit:read-only, QLineEdit:disabled, QListView:disabled { background: @panel; }
+QLineEdit:disabled { color: @muted; }
 QListView, QTableView { outline: 0; }
 QTableView { alternate-background-color: @panel; }
 QHeaderView { background: @bar; }

@@ -58,6 +58,7 @@ void RecorderPanel::Connect() {
   MMWaveRecorderX.on_stopped = [this] {
     RecordBtn.Enable();
     StopBtn.Disable();
+    NowExit.SetFocus();
     if (!stopping_) CaptureEnded();
   };
   MMWaveRecorderX.on_progress = [this] { ShowProgress(); };
