@@ -12,7 +12,6 @@
 #include <QSaveFile>
 #include <chrono>
 
-#include "desktop/binder.h"
 #include "desktop/report_paper.h"
 #include "desktop/report_preview.h"
 #include "desktop/station_text.h"
@@ -23,6 +22,7 @@ namespace {
 constexpr double kMargin = 15;  // millimetres
 constexpr double kPointsPerInch = 72;
 constexpr int kResolution = 600;
+constexpr std::chrono::seconds kSpooling{10};  // a list of ten thousand takes two
 
 }  // namespace
 
@@ -73,32 +73,26 @@ QPageLayout UsualPaper() {
 }
 
 std::string QtPrinter::DefaultName() {
-  HearDefaultName(false);
-  if (!asked_.valid() && !printing_) {
-    asked_ = std::async(std::launch::async, [] { return FromQt(QPrinterInfo::defaultPrinterName()); });
-  }
-  return default_name_;
+  if (!printing_) system_.LookAgain();
+  return system_.found().default_name;
 }
 
-void QtPrinter::HearDefaultName(bool wait) {
-  if (!asked_.valid()) return;
-  if (!wait && asked_.wait_for(std::chrono::seconds(0)) != std::future_status::ready) return;
-  default_name_ = asked_.get();
+QString QtPrinter::WhyNoPrinter() {
+  const std::optional<PrintersFound> found = system_.Find(patience_, turn_);
+  if (!found) return QStringLiteral("The print system of this PC does not answer.");
+  return found->any ? QString() : QStringLiteral("No printer is set up on this PC.");
 }
 
 PrintOutcome QtPrinter::Print(const std::vector<PrintedPage>& pages, std::string_view title) {
-  // The print system is asked by one thread at a time.
-  HearDefaultName(true);
-  struct Printing {
+  struct Printing {  // the print system is asked by one thread at a time
     explicit Printing(bool& flag) : flag_(flag) { flag_ = true; }
     ~Printing() { flag_ = false; }
     bool& flag_;
   } const printing(printing_);
-  const bool has_printer = !QPrinterInfo::availablePrinterNames().isEmpty();
   Job job{pages, ToQt(title), UsualPaper()};
   std::optional<PrintOutcome> outcome;
   while (!outcome) {
-    ReportPreview preview(pages, job.title, job.paper, has_printer, dialogs_.Over());
+    ReportPreview preview(pages, job.title, job.paper, WhyNoPrinter(), dialogs_.Over());
     const int wanted = dialogs_.Run(preview);
     job.paper = preview.paper();
     if (wanted == ReportPreview::kPrint) {
@@ -113,13 +107,17 @@ PrintOutcome QtPrinter::Print(const std::vector<PrintedPage>& pages, std::string
 }
 
 std::optional<PrintOutcome> QtPrinter::PrintOnPaper(const Job& job) {
-  QPrinter printer(QPrinter::HighResolution);
-  printer.setDocName(job.title);
-  printer.setPageLayout(job.paper);
-  QPrintDialog dialog(&printer, dialogs_.Over());
-  dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
-  if (dialogs_.Run(dialog) != QDialog::Accepted) return std::nullopt;
-  const bool printed = PaintReport(printer, job.pages, [this] { dialogs_.LetTimersRun(); });
+  if (!WhyNoPrinter().isEmpty()) return std::nullopt;  // it has gone meanwhile: the preview says so
+  const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+  printer->setDocName(job.title);
+  printer->setPageLayout(job.paper);
+  {
+    QPrintDialog dialog(printer.get(), dialogs_.Over());
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    if (dialogs_.Run(dialog) != QDialog::Accepted) return std::nullopt;
+  }
+  const bool printed = system_.Do(
+      [printer, pages = job.pages] { return PaintReport(*printer, pages, [] {}); }, kSpooling, turn_);
   return printed ? PrintOutcome::kPrinted : PrintOutcome::kFault;
 }
 

@@ -1,14 +1,14 @@
 #pragma once
 
 // Printing through the desktop: a preview first, from there to a printer that the operator chooses or to a
-// PDF file that he names. Windows run as boxes do, and leave when the program ends; between two pages the
-// timers have their turn.
+// PDF file that he names. Windows run as boxes do, and leave when the program ends. A print system that hangs
+// is told as a fault after some seconds; the timers go on all the while.
 
 #include <QPagedPaintDevice>
-#include <future>
 #include <optional>
 #include <string>
 
+#include "desktop/print_system.h"
 #include "desktop/qt_dialogs.h"
 #include "station/platform/printer.h"
 
@@ -27,8 +27,12 @@ QPageLayout UsualPaper();
 
 class QtPrinter : public Printer {
  public:
-  explicit QtPrinter(QtDialogs& dialogs) : dialogs_(dialogs) {}
-  /// The print system is asked in the background, for it may take its time: the name is the last one heard.
+  using Patience = std::chrono::milliseconds;
+  /// `patience` with a print system that does not answer.
+  explicit QtPrinter(QtDialogs& dialogs, PrintSystem system = PrintSystem(),
+                     Patience patience = Patience(3000))
+      : dialogs_(dialogs), system_(std::move(system)), patience_(patience) {}
+  /// The last one heard.
   std::string DefaultName() override;
   PrintOutcome Print(const std::vector<PrintedPage>& pages, std::string_view title) override;
 
@@ -37,11 +41,13 @@ class QtPrinter : public Printer {
   /// None: back to the preview.
   std::optional<PrintOutcome> PrintOnPaper(const Job& job);
   std::optional<PrintOutcome> SaveAsPdf(const Job& job);
-  void HearDefaultName(bool wait);
+  /// Why nothing can be printed; empty when it can.
+  QString WhyNoPrinter();
 
   QtDialogs& dialogs_;
-  std::future<std::string> asked_;
-  std::string default_name_;
+  PrintSystem system_;
+  Patience patience_;
+  const PrintSystem::Turn turn_ = [this] { dialogs_.LetTimersRun(); };
   bool printing_ = false;
 };
 

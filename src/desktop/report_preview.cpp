@@ -68,7 +68,7 @@ void ReportSheet::paintEvent(QPaintEvent*) {
 }
 
 ReportPreview::ReportPreview(const std::vector<PrintedPage>& pages, const QString& title,
-                             const QPageLayout& paper, bool has_printer, QWidget* parent)
+                             const QPageLayout& paper, const QString& why_no_printer, QWidget* parent)
     : QDialog(parent), pages_(pages), sheet_(new ReportSheet(pages)), area_(new QScrollArea) {
   setWindowTitle(title);
   sheet_->SetPaper(paper);
@@ -78,10 +78,11 @@ ReportPreview::ReportPreview(const std::vector<PrintedPage>& pages, const QStrin
   auto* column = new QVBoxLayout(this);
   column->addWidget(MakeBar());
   column->addWidget(area_, 1);
-  column->addWidget(MakeButtons(has_printer));
+  column->addWidget(MakeButtons(why_no_printer));
   resize(kFirstSize);
   ShowPage(0);
-  findChild<QPushButton*>(has_printer ? QStringLiteral("print") : QStringLiteral("savePdf"))->setFocus();
+  findChild<QPushButton*>(why_no_printer.isEmpty() ? QStringLiteral("print") : QStringLiteral("savePdf"))
+      ->setFocus();
 }
 
 const QPageLayout& ReportPreview::paper() const {
@@ -117,11 +118,12 @@ QWidget* ReportPreview::MakeBar() {
   return holder;
 }
 
-QWidget* ReportPreview::MakeButtons(bool has_printer) {
+QWidget* ReportPreview::MakeButtons(const QString& why_no_printer) {
+  const bool has_printer = why_no_printer.isEmpty();
   auto* holder = new QWidget;
   auto* bar = new QHBoxLayout(holder);
   bar->setContentsMargins(0, 0, 0, 0);
-  if (!has_printer) bar->addWidget(new QLabel(QStringLiteral("No printer is set up on this PC.")));
+  if (!has_printer) bar->addWidget(new QLabel(why_no_printer));
   bar->addStretch(1);
   auto* print = MakeButton("print", QStringLiteral("&Print..."), *bar);
   auto* save = MakeButton("savePdf", QStringLiteral("&Save as PDF..."), *bar);

@@ -46,9 +46,9 @@ class ReportPreview : public QDialog {
  public:
   enum Result { kCancel = QDialog::Rejected, kPrint, kSavePdf };
 
-  /// `pages` outlive this; without a printer there is only the PDF file.
+  /// `pages` outlive this. Where `why_no_printer` is not empty it is shown, and there is only the PDF file.
   ReportPreview(const std::vector<PrintedPage>& pages, const QString& title, const QPageLayout& paper,
-                bool has_printer, QWidget* parent);
+                const QString& why_no_printer, QWidget* parent);
   const QPageLayout& paper() const;
 
  protected:
@@ -56,7 +56,7 @@ class ReportPreview : public QDialog {
 
  private:
   QWidget* MakeBar();
-  QWidget* MakeButtons(bool has_printer);
+  QWidget* MakeButtons(const QString& why_no_printer);
   void ShowPage(int page);
   void ChoosePaper(int index);
   void ApplyZoom();

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QTimer>
+#include <future>
 
 #include "desktop/qt_printer.h"
 #include "desktop/report_paper.h"
@@ -19,6 +20,7 @@ namespace quixair::testing {
 namespace {
 
 using desktop::ReportPreview;
+using namespace std::chrono_literals;
 
 QPageLayout Paper(QPageSize::PageSizeId id) {
   return QPageLayout(QPageSize(id), QPageLayout::Portrait, QMarginsF(15, 15, 15, 15),
@@ -71,9 +73,12 @@ class Printing : public ::testing::Test {
  protected:
   Printing() { dialogs_.Attach(gate_); }
   static void WhenPreviewed(std::function<void(ReportPreview&)> act) {
-    QTimer::singleShot(0, [act = std::move(act)] {
+    auto* look = new QTimer(qApp);
+    look->start(5);
+    QObject::connect(look, &QTimer::timeout, look, [look, act = std::move(act)] {
       auto* preview = dynamic_cast<ReportPreview*>(QApplication::activeModalWidget());
-      ASSERT_NE(preview, nullptr) << "no preview is open";
+      if (preview == nullptr) return;
+      look->deleteLater();
       act(*preview);
     });
   }
@@ -88,7 +93,7 @@ class Printing : public ::testing::Test {
 };
 
 TEST_F(Printing, Preview_GoesFromPageToPage) {
-  ReportPreview preview(pages_, QStringLiteral("List"), Paper(QPageSize::A4), true, nullptr);
+  ReportPreview preview(pages_, QStringLiteral("List"), Paper(QPageSize::A4), QString(), nullptr);
   const auto place = [&preview] { return preview.findChild<QLabel*>(QStringLiteral("place"))->text(); };
   EXPECT_FALSE(Named(preview, "previous").isEnabled());
   Named(preview, "next").click();
@@ -102,7 +107,8 @@ TEST_F(Printing, Preview_GoesFromPageToPage) {
 }
 
 TEST_F(Printing, PreviewWithoutAPrinter_OffersThePdfOnly) {
-  ReportPreview preview(pages_, QStringLiteral("List"), Paper(QPageSize::A4), false, nullptr);
+  ReportPreview preview(pages_, QStringLiteral("List"), Paper(QPageSize::A4), QStringLiteral("None."),
+                        nullptr);
   EXPECT_FALSE(Named(preview, "print").isEnabled());
   Named(preview, "savePdf").click();
   EXPECT_EQ(preview.result(), ReportPreview::kSavePdf);
@@ -112,6 +118,45 @@ TEST_F(Printing, PreviewCancelled_PrintsNothing) {
   desktop::QtPrinter printer(dialogs_);
   WhenPreviewed([](ReportPreview& preview) { Named(preview, "cancel").click(); });
   EXPECT_EQ(printer.Print(pages_, "List"), PrintOutcome::kCancelled);
+}
+
+/// The timers must go on: what plays would end in silence.
+TEST_F(Printing, PrintSystemThatHangs_IsToldAndHoldsUpNeitherTheTimersNorTheEnd) {
+  const auto hangs = std::make_shared<std::promise<desktop::PrintersFound>>();
+  {
+    desktop::QtPrinter printer(dialogs_, desktop::PrintSystem([hangs] { return hangs->get_future().get(); }),
+                               60ms);
+    EXPECT_EQ(printer.DefaultName(), "");
+    int ticks = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&ticks] { ++ticks; });
+    timer.start(5);
+    QString told;
+    WhenPreviewed([&told](ReportPreview& preview) {
+      EXPECT_FALSE(Named(preview, "print").isEnabled());
+      for (const QLabel* label : preview.findChildren<QLabel*>()) told += label->text();
+      Named(preview, "cancel").click();
+    });
+    EXPECT_EQ(printer.Print(pages_, "List"), PrintOutcome::kCancelled);
+    EXPECT_TRUE(told.contains(QStringLiteral("does not answer"))) << told.toStdString();
+    EXPECT_GT(ticks, 2);
+  }
+  hangs->set_value({});
+}
+
+TEST_F(Printing, JobThatHangs_IsAFaultAndNothingElseIsAskedMeanwhile) {
+  const auto hangs = std::make_shared<std::promise<bool>>();
+  int searches = 0;
+  desktop::PrintSystem system([&searches] {
+    ++searches;
+    return desktop::PrintersFound{.default_name = "Laser", .any = true};
+  });
+  EXPECT_EQ(system.Find(5s, [] {})->default_name, "Laser");
+  EXPECT_FALSE(system.Do([hangs] { return hangs->get_future().get(); }, 20ms, [] {}));
+  EXPECT_FALSE(system.Do([] { return true; }, 5s, [] {}));
+  EXPECT_FALSE(system.Find(5s, [] {}).has_value());
+  EXPECT_EQ(searches, 1);
+  hangs->set_value(true);
 }
 
 TEST_F(Printing, ProgramEndsWhileThePreviewIsOpen_TheEventIsLeft) {

@@ -5,11 +5,11 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
 #include <string_view>
-#include <thread>
 #include <utility>
 #include <vector>
+
+#include "station/platform/beside.h"
 
 namespace quixair {
 namespace {
@@ -20,19 +20,6 @@ constexpr std::size_t kPiece = std::size_t{512} * 1024;
 
 std::string GrowingName(const std::string& name) {
   return name.substr(0, name.rfind('.')) + ".COPYING";
-}
-
-/// The thread may outlive the copy that began it: a copy given up does not wait for a slow disk.
-template <class Work>
-std::future<Status> Beside(Work work) {
-  std::packaged_task<Status()> task(std::move(work));
-  std::future<Status> result = task.get_future();
-  std::thread(std::move(task)).detach();
-  return result;
-}
-
-bool IsThrough(const std::future<Status>& work) {
-  return work.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
 }
 
 }  // namespace
