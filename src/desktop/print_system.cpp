@@ -2,7 +2,6 @@
 
 #include <QPrinterInfo>
 
-#include "desktop/station_text.h"
 #include "station/platform/beside.h"
 
 namespace quixair::desktop {
@@ -24,7 +23,7 @@ bool IsThroughWithin(const std::future<Answer>& work, std::chrono::milliseconds 
 }  // namespace
 
 PrintersFound PrintSystem::SearchPrinters() {
-  return {FromQt(QPrinterInfo::defaultPrinterName()), !QPrinterInfo::availablePrinterNames().isEmpty()};
+  return {QPrinterInfo::availablePrinterNames(), QPrinterInfo::defaultPrinterName()};
 }
 
 bool PrintSystem::IsHeldUp() const {

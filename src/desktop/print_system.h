@@ -3,17 +3,17 @@
 // The machine's print system, which may take its time or hang: it is asked and given its work in the
 // background, one thing at a time, while the timers and the air go on. QtPrinter owns it.
 
+#include <QStringList>
 #include <chrono>
 #include <functional>
 #include <future>
 #include <optional>
-#include <string>
 
 namespace quixair::desktop {
 
 struct PrintersFound {
-  std::string default_name = {};  // empty when there is none
-  bool any = false;
+  QStringList names;
+  QString default_name = {};  // empty when there is none
 };
 
 class PrintSystem {

@@ -6,7 +6,6 @@
 #include <QLocale>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QSaveFile>
@@ -30,6 +29,8 @@ struct QtPrinter::Job {
   const std::vector<PrintedPage>& pages;
   QString title;
   QPageLayout paper;
+  QString printer = {};
+  int copies = 1;
 };
 
 bool PaintReport(QPagedPaintDevice& device, const std::vector<PrintedPage>& pages,
@@ -74,13 +75,7 @@ QPageLayout UsualPaper() {
 
 std::string QtPrinter::DefaultName() {
   if (!printing_) system_.LookAgain();
-  return system_.found().default_name;
-}
-
-QString QtPrinter::WhyNoPrinter() {
-  const std::optional<PrintersFound> found = system_.Find(patience_, turn_);
-  if (!found) return QStringLiteral("The print system of this PC does not answer.");
-  return found->any ? QString() : QStringLiteral("No printer is set up on this PC.");
+  return FromQt(system_.found().default_name);
 }
 
 PrintOutcome QtPrinter::Print(const std::vector<PrintedPage>& pages, std::string_view title) {
@@ -89,12 +84,14 @@ PrintOutcome QtPrinter::Print(const std::vector<PrintedPage>& pages, std::string
     ~Printing() { flag_ = false; }
     bool& flag_;
   } const printing(printing_);
-  Job job{pages, ToQt(title), UsualPaper()};
+  Job job{.pages = pages, .title = ToQt(title), .paper = UsualPaper()};
   std::optional<PrintOutcome> outcome;
   while (!outcome) {
-    ReportPreview preview(pages, job.title, job.paper, WhyNoPrinter(), dialogs_.Over());
+    ReportPreview preview(pages, job.title, job.paper, system_.Find(patience_, turn_), dialogs_.Over());
     const int wanted = dialogs_.Run(preview);
     job.paper = preview.paper();
+    job.printer = preview.printer();
+    job.copies = preview.copies();
     if (wanted == ReportPreview::kPrint) {
       outcome = PrintOnPaper(job);
     } else if (wanted == ReportPreview::kSavePdf) {
@@ -106,18 +103,18 @@ PrintOutcome QtPrinter::Print(const std::vector<PrintedPage>& pages, std::string
   return *outcome;
 }
 
-std::optional<PrintOutcome> QtPrinter::PrintOnPaper(const Job& job) {
-  if (!WhyNoPrinter().isEmpty()) return std::nullopt;  // it has gone meanwhile: the preview says so
-  const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-  printer->setDocName(job.title);
-  printer->setPageLayout(job.paper);
-  {
-    QPrintDialog dialog(printer.get(), dialogs_.Over());
-    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
-    if (dialogs_.Run(dialog) != QDialog::Accepted) return std::nullopt;
-  }
+PrintOutcome QtPrinter::PrintOnPaper(const Job& job) {
+  // The toolkit's own print dialog would ask the print system on this thread, and wait for it.
   const bool printed = system_.Do(
-      [printer, pages = job.pages] { return PaintReport(*printer, pages, [] {}); }, kSpooling, turn_);
+      [pages = job.pages, title = job.title, paper = job.paper, name = job.printer, copies = job.copies] {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setPrinterName(name);
+        printer.setDocName(title);
+        printer.setPageLayout(paper);
+        printer.setCopyCount(copies);
+        return PaintReport(printer, pages, [] {});
+      },
+      kSpooling, turn_);
   return printed ? PrintOutcome::kPrinted : PrintOutcome::kFault;
 }
 

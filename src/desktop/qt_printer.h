@@ -38,11 +38,9 @@ class QtPrinter : public Printer {
 
  private:
   struct Job;
+  PrintOutcome PrintOnPaper(const Job& job);
   /// None: back to the preview.
-  std::optional<PrintOutcome> PrintOnPaper(const Job& job);
   std::optional<PrintOutcome> SaveAsPdf(const Job& job);
-  /// Why nothing can be printed; empty when it can.
-  QString WhyNoPrinter();
 
   QtDialogs& dialogs_;
   PrintSystem system_;

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSpinBox>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -17,6 +18,7 @@ constexpr QSize kFirstSize{900, 760};
 constexpr int kSheetMargin = 24;  // around the sheet, in the window
 constexpr int kWholeWidth = 0;    // zooms that follow the window
 constexpr int kWholePage = -1;
+constexpr int kMostCopies = 99;
 
 QComboBox* MakeChoice(const char* name, const QString& caption, QHBoxLayout& bar) {
   auto* label = new QLabel(caption);
@@ -68,7 +70,8 @@ void ReportSheet::paintEvent(QPaintEvent*) {
 }
 
 ReportPreview::ReportPreview(const std::vector<PrintedPage>& pages, const QString& title,
-                             const QPageLayout& paper, const QString& why_no_printer, QWidget* parent)
+                             const QPageLayout& paper, const std::optional<PrintersFound>& printers,
+                             QWidget* parent)
     : QDialog(parent), pages_(pages), sheet_(new ReportSheet(pages)), area_(new QScrollArea) {
   setWindowTitle(title);
   sheet_->SetPaper(paper);
@@ -78,10 +81,10 @@ ReportPreview::ReportPreview(const std::vector<PrintedPage>& pages, const QStrin
   auto* column = new QVBoxLayout(this);
   column->addWidget(MakeBar());
   column->addWidget(area_, 1);
-  column->addWidget(MakeButtons(why_no_printer));
+  column->addWidget(MakeButtons(printers));
   resize(kFirstSize);
   ShowPage(0);
-  findChild<QPushButton*>(why_no_printer.isEmpty() ? QStringLiteral("print") : QStringLiteral("savePdf"))
+  findChild<QPushButton*>(printer_ != nullptr ? QStringLiteral("print") : QStringLiteral("savePdf"))
       ->setFocus();
 }
 
@@ -118,14 +121,40 @@ QWidget* ReportPreview::MakeBar() {
   return holder;
 }
 
-QWidget* ReportPreview::MakeButtons(const QString& why_no_printer) {
-  const bool has_printer = why_no_printer.isEmpty();
+QString ReportPreview::printer() const {
+  return printer_ != nullptr ? printer_->currentText() : QString();
+}
+
+int ReportPreview::copies() const {
+  return copies_ != nullptr ? copies_->value() : 1;
+}
+
+void ReportPreview::AddPrinters(const PrintersFound& printers, QHBoxLayout& bar) {
+  printer_ = MakeChoice("printer", QStringLiteral("Prin&ter:"), bar);
+  printer_->addItems(printers.names);
+  printer_->setCurrentIndex(std::max(0, static_cast<int>(printers.names.indexOf(printers.default_name))));
+  auto* label = new QLabel(QStringLiteral("C&opies:"));
+  copies_ = new QSpinBox;
+  copies_->setObjectName(QStringLiteral("copies"));
+  copies_->setRange(1, kMostCopies);
+  label->setBuddy(copies_);
+  bar.addWidget(label);
+  bar.addWidget(copies_);
+}
+
+QWidget* ReportPreview::MakeButtons(const std::optional<PrintersFound>& printers) {
   auto* holder = new QWidget;
   auto* bar = new QHBoxLayout(holder);
   bar->setContentsMargins(0, 0, 0, 0);
-  if (!has_printer) bar->addWidget(new QLabel(why_no_printer));
+  const bool has_printer = printers && !printers->names.isEmpty();
+  if (has_printer) {
+    AddPrinters(*printers, *bar);
+  } else {
+    bar->addWidget(new QLabel(printers ? QStringLiteral("No printer is set up on this PC.")
+                                       : QStringLiteral("The print system of this PC does not answer.")));
+  }
   bar->addStretch(1);
-  auto* print = MakeButton("print", QStringLiteral("&Print..."), *bar);
+  auto* print = MakeButton("print", QStringLiteral("&Print"), *bar);
   auto* save = MakeButton("savePdf", QStringLiteral("&Save as PDF..."), *bar);
   auto* cancel = MakeButton("cancel", QStringLiteral("&Cancel"), *bar);
   print->setEnabled(has_printer);

@@ -7,15 +7,18 @@
 #include <QDialog>
 #include <QPageLayout>
 #include <QWidget>
-#include <string>
+#include <optional>
 #include <vector>
 
+#include "desktop/print_system.h"
 #include "desktop/report_paper.h"
 
 class QComboBox;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QScrollArea;
+class QSpinBox;
 
 namespace quixair::desktop {
 
@@ -46,17 +49,21 @@ class ReportPreview : public QDialog {
  public:
   enum Result { kCancel = QDialog::Rejected, kPrint, kSavePdf };
 
-  /// `pages` outlive this. Where `why_no_printer` is not empty it is shown, and there is only the PDF file.
+  /// `pages` outlive this. Without printers, or with none known since the print system does not answer, there is
+  /// only the PDF file.
   ReportPreview(const std::vector<PrintedPage>& pages, const QString& title, const QPageLayout& paper,
-                const QString& why_no_printer, QWidget* parent);
+                const std::optional<PrintersFound>& printers, QWidget* parent);
   const QPageLayout& paper() const;
+  QString printer() const;
+  int copies() const;
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
 
  private:
   QWidget* MakeBar();
-  QWidget* MakeButtons(const QString& why_no_printer);
+  QWidget* MakeButtons(const std::optional<PrintersFound>& printers);
+  void AddPrinters(const PrintersFound& printers, QHBoxLayout& bar);
   void ShowPage(int page);
   void ChoosePaper(int index);
   void ApplyZoom();
@@ -69,6 +76,8 @@ class ReportPreview : public QDialog {
   QLabel* place_;
   QComboBox* paper_;
   QComboBox* zoom_;
+  QComboBox* printer_ = nullptr;  // none without printers
+  QSpinBox* copies_ = nullptr;
 };
 
 }  // namespace quixair::desktop

@@ -19,8 +19,12 @@
 namespace quixair::testing {
 namespace {
 
+using desktop::PrintersFound;
 using desktop::ReportPreview;
 using namespace std::chrono_literals;
+
+const PrintersFound kTwoPrinters = {{QStringLiteral("Ink"), QStringLiteral("Laser")},
+                                    QStringLiteral("Laser")};
 
 QPageLayout Paper(QPageSize::PageSizeId id) {
   return QPageLayout(QPageSize(id), QPageLayout::Portrait, QMarginsF(15, 15, 15, 15),
@@ -93,7 +97,7 @@ class Printing : public ::testing::Test {
 };
 
 TEST_F(Printing, Preview_GoesFromPageToPage) {
-  ReportPreview preview(pages_, QStringLiteral("List"), Paper(QPageSize::A4), QString(), nullptr);
+  ReportPreview preview(pages_, QStringLiteral("List"), Paper(QPageSize::A4), kTwoPrinters, nullptr);
   const auto place = [&preview] { return preview.findChild<QLabel*>(QStringLiteral("place"))->text(); };
   EXPECT_FALSE(Named(preview, "previous").isEnabled());
   Named(preview, "next").click();
@@ -104,11 +108,11 @@ TEST_F(Printing, Preview_GoesFromPageToPage) {
   EXPECT_EQ(place(), QStringLiteral("Page 2 of 3"));
   preview.findChild<QComboBox*>(QStringLiteral("paper"))->setCurrentIndex(1);
   EXPECT_EQ(preview.paper().pageSize().id(), QPageSize::Letter);
+  EXPECT_EQ(preview.printer(), QStringLiteral("Laser"));
 }
 
 TEST_F(Printing, PreviewWithoutAPrinter_OffersThePdfOnly) {
-  ReportPreview preview(pages_, QStringLiteral("List"), Paper(QPageSize::A4), QStringLiteral("None."),
-                        nullptr);
+  ReportPreview preview(pages_, QStringLiteral("List"), Paper(QPageSize::A4), PrintersFound{}, nullptr);
   EXPECT_FALSE(Named(preview, "print").isEnabled());
   Named(preview, "savePdf").click();
   EXPECT_EQ(preview.result(), ReportPreview::kSavePdf);
@@ -122,7 +126,7 @@ TEST_F(Printing, PreviewCancelled_PrintsNothing) {
 
 /// The timers must go on: what plays would end in silence.
 TEST_F(Printing, PrintSystemThatHangs_IsToldAndHoldsUpNeitherTheTimersNorTheEnd) {
-  const auto hangs = std::make_shared<std::promise<desktop::PrintersFound>>();
+  const auto hangs = std::make_shared<std::promise<PrintersFound>>();
   {
     desktop::QtPrinter printer(dialogs_, desktop::PrintSystem([hangs] { return hangs->get_future().get(); }),
                                60ms);
@@ -149,9 +153,9 @@ TEST_F(Printing, JobThatHangs_IsAFaultAndNothingElseIsAskedMeanwhile) {
   int searches = 0;
   desktop::PrintSystem system([&searches] {
     ++searches;
-    return desktop::PrintersFound{.default_name = "Laser", .any = true};
+    return kTwoPrinters;
   });
-  EXPECT_EQ(system.Find(5s, [] {})->default_name, "Laser");
+  EXPECT_EQ(system.Find(5s, [] {})->default_name, QStringLiteral("Laser"));
   EXPECT_FALSE(system.Do([hangs] { return hangs->get_future().get(); }, 20ms, [] {}));
   EXPECT_FALSE(system.Do([] { return true; }, 5s, [] {}));
   EXPECT_FALSE(system.Find(5s, [] {}).has_value());
