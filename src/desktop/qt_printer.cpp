@@ -7,7 +7,6 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
-#include <QPrinterInfo>
 #include <QSaveFile>
 #include <chrono>
 
@@ -21,7 +20,7 @@ namespace {
 constexpr double kMargin = 15;  // millimetres
 constexpr double kPointsPerInch = 72;
 constexpr int kResolution = 600;
-constexpr std::chrono::seconds kSpooling{10};  // a list of ten thousand takes two
+constexpr std::chrono::seconds kSpooling{30};  // a slow machine takes ten for 10,000 recordings
 
 }  // namespace
 

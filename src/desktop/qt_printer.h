@@ -32,6 +32,8 @@ class QtPrinter : public Printer {
   explicit QtPrinter(QtDialogs& dialogs, PrintSystem system = PrintSystem(),
                      Patience patience = Patience(3000))
       : dialogs_(dialogs), system_(std::move(system)), patience_(patience) {}
+  QtPrinter(const QtPrinter&) = delete;
+  QtPrinter& operator=(const QtPrinter&) = delete;
   /// The last one heard.
   std::string DefaultName() override;
   PrintOutcome Print(const std::vector<PrintedPage>& pages, std::string_view title) override;
