@@ -43,7 +43,7 @@ Status EventTable::ReadTemplate(Files& files, std::string_view template_name) {
   events_.clear();
   const Result<std::string> content = files.Read(station_paths::TemplateFile(template_name));
   if (!content.ok()) return content.status();
-  for (TemplateEvent& event : ReadableEvents(content.value())) {
+  for (TemplateEvent& event : EventsBeforeLast(content.value())) {
     events_.push_back({std::move(event.EventId), {}, {}, std::move(event.EventTitle), {}});
   }
   Cut();
@@ -55,17 +55,17 @@ Status EventTable::ReadHandOver(Files& files) {
   const Result<std::string> content = files.Read(station_paths::kPickList);
   if (!content.ok()) return content.status();
   const std::vector<std::string> ids = ReadValues(content.value(), kCapacity + 1);
-  for (const std::string& id : ids) events_.push_back({id, {}, {}, {}, {}});
-  Cut();
-  for (PickListEvent& event : events_) {
-    if (event.EventId.empty()) event.EventId = kEmptyPlace;
+  if (ids.empty()) return RunTimeError::kInputPastEnd;
+  const auto end = ids.end() - 1;  // the last line closes the list
+  for (auto id = ids.begin(); id != end; ++id) {
+    events_.push_back({id->empty() ? std::string(kEmptyPlace) : *id, {}, {}, {}, {}});
   }
-  return ids.empty() ? RunTimeError::kInputPastEnd : RunTimeError::kNone;
+  Cut();
+  return RunTimeError::kNone;
 }
 
-/// The empty event at the end closes the list and is none; what is more than the table holds is left out.
+/// What is more than the table holds is left out.
 void EventTable::Cut() {
-  if (!events_.empty() && events_.back().EventId.empty()) events_.pop_back();
   if (events_.size() > kCapacity) events_.resize(kCapacity);
 }
 

@@ -38,8 +38,7 @@ StopSetRow RowOf(TemplateEvent event) {
 }  // namespace
 
 StopSetList StopSetList::Load(Files& files, std::string_view content) {
-  std::vector<TemplateEvent> events = ReadableEvents(content);
-  if (!events.empty() && events.back().EventId.empty()) events.pop_back();  // the terminating record
+  std::vector<TemplateEvent> events = EventsBeforeLast(content);
   if (events.size() == kMaxTemplateLines + 1) events.pop_back();
   StopSetList list;
   list.rows_.reserve(events.size());

@@ -81,6 +81,12 @@ std::vector<TemplateEvent> ReadableEvents(std::string_view content) {
   return ParseUntilTorn(content).events;
 }
 
+std::vector<TemplateEvent> EventsBeforeLast(std::string_view content) {
+  Parsed parsed = ParseUntilTorn(content);
+  if (!parsed.torn && !parsed.events.empty()) parsed.events.pop_back();
+  return std::move(parsed.events);
+}
+
 std::vector<TemplateEvent> EventsToFirstEmpty(std::string_view content, std::size_t limit) {
   std::vector<TemplateEvent> events = ReadableEvents(content);
   const auto end = std::find_if(events.begin(), events.end(),

@@ -39,6 +39,9 @@ Result<std::vector<TemplateEvent>> ParseTemplate(std::string_view content);
 bool StopsInMidRecord(std::string_view content);
 /// The same for readers that stop without a word at the end of file.
 std::vector<TemplateEvent> ReadableEvents(std::string_view content);
+/// The events of a list that is played or edited. The last record ends the list, whatever stands in it: a template
+/// without its terminating record so loses its last event. Of a file that stops in mid-record that half is the last.
+std::vector<TemplateEvent> EventsBeforeLast(std::string_view content);
 /// Events up to the first empty id, at most `limit` lines: how the rotation file is read.
 std::vector<TemplateEvent> EventsToFirstEmpty(std::string_view content, std::size_t limit);
 

@@ -46,10 +46,7 @@ bool TemplateEditor::OpenTemplate() {
   screen_.Label2.SetCaption("Template in Use: " + TemplateName);
   const Result<std::string> content = platform.files.Read(station_paths::TemplateFile(TemplateName));
   if (!content.ok()) return TellUnreadable(content.status());
-  events_ = ReadableEvents(content.value());
-  const bool terminated = !events_.empty() && events_.back() == TemplateEvent{};
-  const bool torn = StopsInMidRecord(content.value());
-  if (torn || !terminated) {
+  if (!ParseTemplate(content.value()).ok()) {
     platform.dialogs.MessageBox(
         "This template may contain data abnormalities.  Loading will\n"
         "continue, but please note that you may have difficulty using\n"
@@ -57,8 +54,7 @@ bool TemplateEditor::OpenTemplate() {
             TemplateName,
         box_style::kCritical, "Possible Data Corruption");
   }
-  // The last record ends the template, and where it is an event the box has told of it: wanted.
-  if (!torn && !events_.empty()) events_.pop_back();
+  events_ = EventsBeforeLast(content.value());
   if (events_.size() > TemplateEntries::kMost) events_.resize(TemplateEntries::kMost);
   return true;
 }

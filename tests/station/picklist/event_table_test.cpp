@@ -61,7 +61,8 @@ TEST_F(EventTableTest, Rows_HoldWhatListAndDataFilesSay) {
 TEST_F(EventTableTest, EndOfFile_IsFoundInWholeTornAndEmptyLists) {
   EXPECT_EQ(Loaded("\"\",\"\"\r\n").EventCount(), 0);
   EXPECT_TRUE(read_.ok());
-  EXPECT_EQ(Loaded("\"M1\",\"x\"\r\n").EventCount(), 1) << "without its last record";
+  EXPECT_EQ(Loaded("\"M1\",\"x\"\r\n\"S1\",\"x\"\r\n").EventCount(), 1) << "the last record ends the list";
+  EXPECT_TRUE(read_.ok());
   EXPECT_EQ(Loaded("\"M1\",\"x\"\r\n\"\",\"\"\r\n\"S1\",\"x\"\r\n\"\",\"\"\r\n").EventCount(), 3);
   EXPECT_EQ(Loaded("\"M1\",\"x\"\r\n\"S1\"\r\n").EventCount(), 1);
   EXPECT_EQ(read_.error(), RunTimeError::kInputPastEnd);

@@ -29,28 +29,31 @@ TEST(TemplateFile, DamagedFiles_AreReadAsFarAsTheyGo) {
     bool whole;
     Events readable;
     std::size_t to_first_empty;
+    std::size_t before_last;
   } cases[] = {
-      {"no events", "\"\",\"\"\r\n", true, {{"", ""}}, 0},
-      {"nothing at all", "", false, {}, 0},
-      {"LF line ends", "\"S1\",\"a\"\n\"\",\"\"\n", true, {{"S1", "a"}, {"", ""}}, 1},
-      {"no end of the last line", "\"S1\",\"a\"\r\n\"\",\"\"", true, {{"S1", "a"}, {"", ""}}, 1},
-      {"no terminating record", "\"S1\",\"a\"\r\n", false, {{"S1", "a"}}, 1},
-      {"last line with one field", "\"S1\",\"a\"\r\n\"S2\"\r\n", false, {{"S1", "a"}}, 1},
-      {"torn inside a title", "\"S1\",\"a\"\r\n\"S2\",\"tor", false, {{"S1", "a"}, {"S2", "tor"}}, 2},
-      {"terminated by half", "\"S1\",\"a\"\r\n\"\"\r\n", false, {{"S1", "a"}}, 1},
+      {"no events", "\"\",\"\"\r\n", true, {{"", ""}}, 0, 0},
+      {"nothing at all", "", false, {}, 0, 0},
+      {"LF line ends", "\"S1\",\"a\"\n\"\",\"\"\n", true, {{"S1", "a"}, {"", ""}}, 1, 1},
+      {"no end of the last line", "\"S1\",\"a\"\r\n\"\",\"\"", true, {{"S1", "a"}, {"", ""}}, 1, 1},
+      {"no terminating record", "\"S1\",\"a\"\r\n", false, {{"S1", "a"}}, 1, 0},
+      {"last line with one field", "\"S1\",\"a\"\r\n\"S2\"\r\n", false, {{"S1", "a"}}, 1, 1},
+      {"torn inside a title", "\"S1\",\"a\"\r\n\"S2\",\"tor", false, {{"S1", "a"}, {"S2", "tor"}}, 2, 1},
+      {"terminated by half", "\"S1\",\"a\"\r\n\"\"\r\n", false, {{"S1", "a"}}, 1, 1},
       {"empty event in the middle",
        "\"S1\",\"a\"\r\n\"\",\"\"\r\n\"S2\",\"b\"\r\n\"\",\"\"\r\n",
        true,
        {{"S1", "a"}, {"", ""}, {"S2", "b"}, {"", ""}},
-       1},
+       1,
+       3},
   };
-  for (const auto& [name, content, whole, readable, to_first_empty] : cases) {
+  for (const auto& [name, content, whole, readable, to_first_empty, before_last] : cases) {
     SCOPED_TRACE(name);
     const auto parsed = ParseTemplate(content);
     EXPECT_EQ(parsed.ok(), whole);
     EXPECT_EQ(parsed.status().number(), whole ? 0 : 62);
     EXPECT_EQ(ReadableEvents(content), readable);
     EXPECT_EQ(EventsToFirstEmpty(content, kMaxTemplateLines).size(), to_first_empty);
+    EXPECT_EQ(EventsBeforeLast(content).size(), before_last);
   }
 }
 
