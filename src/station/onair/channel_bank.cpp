@@ -68,6 +68,15 @@ void ChannelBank::CloseAll() {
   for (MediaControl* channel : {&MMControl1, &MMControl2, &MMControl3}) channel->Command("close");
 }
 
+void ChannelBank::SweepEnded() {
+  for (MediaControl* channel : {&MMControl1, &MMControl2}) {
+    if (EqualsIgnoringCase(channel->last_command(), "Play") && channel->Position() >= channel->Length() &&
+        channel->Position() != 0) {
+      channel->Command("Close");
+    }
+  }
+}
+
 bool ChannelBank::AnythingSounds() const {
   return MMControl1.Mode() == ChannelMode::kPlaying || MMControl2.Mode() == ChannelMode::kPlaying;
 }

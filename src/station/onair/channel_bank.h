@@ -28,6 +28,9 @@ class ChannelBank {
   void ResumeAll();  // those of 1, 2, 3 that are paused
   void RewindAll();
   void CloseAll();
+  /// Closes channel 1 or 2 when its file has ended and nothing else took notice: it frees the channel whose item
+  /// ended while the other one had taken over.
+  void SweepEnded();
   /// Channel 1 or 2 plays.
   bool AnythingSounds() const;
   /// Both channels play songs, each of them no further than `milliseconds`: the only sign of two that were

@@ -22,7 +22,7 @@ namespace {
 constexpr std::chrono::milliseconds kChannelPollTick{190};  // Random polls at 210
 constexpr std::chrono::milliseconds kOverlapTick{1000};
 constexpr int kMostExpiredSkips = 150;
-constexpr double kSecondsUntilGoingOn = 1;  // with what cannot be done now: gone drives come back
+constexpr double kSecondsBetweenRounds = 30;  // of a repeated list in which nothing may play
 
 using Rows = std::array<std::string, 3>;
 
@@ -46,19 +46,21 @@ void PickListEngine::PlayNextEvent() {
     LeaveStep();
     return;
   }
+  if (depth_ == 0) step_left_ = false;
   ++depth_;
   Step();
   --depth_;
 }
 
 void PickListEngine::GoOnWhereLeft() {
-  if (!step_left_ || SecondsBetween(left_at_, context_.state.TickTimer) < kSecondsUntilGoingOn) return;
+  if (!step_left_ || SecondsBetween(left_at_, context_.state.TickTimer) < go_on_after_) return;
   step_left_ = false;
   PlayNextEvent();
 }
 
-void PickListEngine::LeaveStep() {
+void PickListEngine::LeaveStep(double seconds) {
   step_left_ = true;
+  go_on_after_ = seconds;
   left_at_ = context_.platform.clock.Steady();
 }
 
@@ -73,7 +75,7 @@ void PickListEngine::Step() {
   ShowLabels();
   WriteRecord();
   CheckSpot();
-  if (state.run_over) return;
+  if (state.run_over || step_left_) return;  // what was refused is not the outer step's to play
   state.ExpiredSkipCount = 0;
   if (IsPauseEvent(context_.current_id())) HoldAtPause();
   if (IsTimeEvent(context_.current_id()) && AnnounceTime()) return;
@@ -190,31 +192,41 @@ void PickListEngine::CheckSpot() {
     context_.screen.Switches.Check4.SetCaption(SpotDateCaption(date_check));
   }
   if (date_check != SpotDateSwitch::kOn) return;
-  const std::vector<std::string> fields = ReadLeadingFields(files, id, 7);
-  const CivilTime today = context_.platform.clock.Now();
-  // Random playback lets a text that is no date pass; here it is a fault that nothing catches.
-  for (const std::string& date : {fields[5], fields[6]}) {
-    if (!date.empty() && !CalendarDay(date, today.year)) OrEndProgram(RunTimeError::kTypeMismatch);
-  }
-  const auto refusal = SpotDateRefusal(fields[5], fields[6], today);
+  const auto refusal = RefusalByDates(id);
   if (!refusal) return;
   context_.faults.Add(id + *refusal, ' ' + id + *refusal);
   PassOverSpot();
 }
 
-/// A list of nothing but spots that are out of their dates must come to an end.
+/// Random playback lets a text that is no date pass; here it is a fault that nothing catches. The kill date of a
+/// spot that has yet to start is not looked at.
+std::optional<std::string> PickListEngine::RefusalByDates(const std::string& id) const {
+  const std::vector<std::string> fields = ReadLeadingFields(context_.platform.files, id, 7);
+  const CivilTime today = context_.platform.clock.Now();
+  const auto date_or_end = [&today](const std::string& date) {
+    if (!date.empty() && !CalendarDay(date, today.year)) OrEndProgram(RunTimeError::kTypeMismatch);
+  };
+  date_or_end(fields[5]);
+  if (auto too_early = SpotDateRefusal(fields[5], "", today)) return too_early;
+  date_or_end(fields[6]);
+  return SpotDateRefusal("", fields[6], today);
+}
+
+/// What was refused never sounds. A list of nothing but spots that are out of their dates must come to an end:
+/// after too many in a row, or a whole round of a repeated list, the operator is told, and a later tick goes on.
 void PickListEngine::PassOverSpot() {
   PickListState& state = context_.state;
   state.ElapsedSecs = NumericValue(context_.events.event(state.CurrentEvent).EventLength);
-  if (++state.ExpiredSkipCount > kMostExpiredSkips) {
-    state.ExpiredSkipCount = 0;
-    context_.screen.Text1.SetBackColor(kYellow);
-    context_.screen.Text1.SetText(
-        "Endless Loop Aborted: This EXPIRED spot will not play. Press END RUN now!");
+  ++state.CurrentEvent;
+  const bool whole_round = ++state.ExpiredSkipCount >= context_.events.EventCount() && state.RepeatOn == 1;
+  if (state.ExpiredSkipCount <= kMostExpiredSkips && !whole_round) {
+    PlayNextEvent();
     return;
   }
-  ++state.CurrentEvent;
-  PlayNextEvent();
+  state.ExpiredSkipCount = 0;
+  context_.screen.Text1.SetBackColor(kYellow);
+  context_.screen.Text1.SetText("Endless Loop Aborted: This EXPIRED spot will not play. Press END RUN now!");
+  LeaveStep(whole_round ? kSecondsBetweenRounds : kSecondsUntilGoingOn);
 }
 
 /// Nothing is closed: a channel that plays goes on to its end.

@@ -13,6 +13,7 @@
 // Unlike in Random playback no fault is skipped here: what cannot be written ends the program with a box.
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "station/platform/clock.h"
@@ -26,6 +27,8 @@ class PickListEngine {
  public:
   /// More than the 150 spots in a row that may be out of their dates.
   static constexpr int kMaxNestedSteps = 200;
+  /// With what cannot be done now: gone drives come back.
+  static constexpr double kSecondsUntilGoingOn = 1;
 
   explicit PickListEngine(PickListContext& context) : context_(context) {}
 
@@ -53,6 +56,7 @@ class PickListEngine {
   void ShowLast();
   void WriteRecord();
   void CheckSpot();
+  std::optional<std::string> RefusalByDates(const std::string& id) const;
   void PassOverSpot();
   void HoldAtPause();
   bool AnnounceTime();
@@ -70,12 +74,13 @@ class PickListEngine {
   bool ChangeDay();
   bool FindNextDay();
   void TellNotFound();
-  void LeaveStep();
+  void LeaveStep(double seconds = kSecondsUntilGoingOn);
 
   PickListContext& context_;
   int depth_ = 0;
   bool step_left_ = false;  // for a later tick
   SteadyTime left_at_{};
+  double go_on_after_ = 0;  // seconds from then
   std::string start_time_;  // of the item that was played last, "HH:MM:SS AM/PM"
 };
 

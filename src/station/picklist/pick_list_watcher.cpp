@@ -75,9 +75,11 @@ void PickListWatcher::RetireFirstAfterOverlap() {
   state.ActiveChannel = 99;
 }
 
-/// Counted by the clock from the item's start, and one second earlier than the way to channel 2.
+/// Counted by the clock from the item's start, and one second earlier than the way to channel 2. Behind the last
+/// event of a list there is nothing to hand back to: it plays to its end.
 void PickListWatcher::HandBack() {
   PickListState& state = context_.state;
+  if (state.CurrentEvent >= context_.events.EventCount() && state.RepeatOn != 1) return;
   const std::string& next = context_.events.next_id(state.CurrentEvent);
   // A lower-case "s" does not hold it off here, unlike on the way to channel 2: known, and kept.
   if (state.LiveRequested == 1 || IsTimeEvent(next) || next.starts_with('S')) return;
@@ -139,15 +141,8 @@ void PickListWatcher::EndSpotOnFirst() {
     GoOn();
 }
 
-/// Frees a channel whose item ended while the other one had taken over.
 void PickListWatcher::Sweep() {
-  for (int number = 1; number <= 2; ++number) {
-    MediaControl& swept = channel(number);
-    if (EqualsIgnoringCase(swept.last_command(), "Play") && swept.Position() >= swept.Length() &&
-        swept.Position() != 0) {
-      swept.Command("Close");
-    }
-  }
+  context_.screen.Channels.SweepEnded();
 }
 
 /// Behind the operator's Continue at a pause event.

@@ -29,6 +29,7 @@ void ChannelWatcher::Tick() {
   EndSecond();
   EndThird();
   DropEmptyChannels();
+  context_.screen.Channels.SweepEnded();
   scheduler_.Scan();
 }
 

@@ -29,6 +29,10 @@ void RandomForm1::Load() {
   playback_->Load();
 }
 
+void RandomForm1::CloseWindow() {
+  playback_->Leave();
+}
+
 OnAirStatus RandomForm1::on_air_status() const {
   const RunState& run = playback_->context().run;
   OnAirStatus status = StatusOf(Channels, {.running = run.running,

@@ -29,6 +29,8 @@ class RandomForm1 : public Screen, public OnAirScreen {
   explicit RandomForm1(const Platform& platform);
   ~RandomForm1() override;
   void Load() override;
+  /// The window's frame does what End Run does, before a run what Quit does: no record of a run stays behind.
+  void CloseWindow() override;
   OnAirStatus on_air_status() const override;
   std::vector<MediaControl*> sounding_channels() override;
   std::optional<StopSetStatus> stop_set_status() const override;

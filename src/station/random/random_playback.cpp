@@ -48,14 +48,7 @@ RandomPlayback::RandomPlayback(RandomForm1& screen)
 void RandomPlayback::ConnectControls() {
   RandomForm1& screen = context_.screen;
   screen.Start.on_click = [this] { controls_.Start(); };
-  screen.Command2.on_click = [this] {
-    controls_.Quit();
-    context_.platform.screens.Unload(context_.screen);
-  };
-  screen.Run.EndRunCommand.on_click = [this] {
-    controls_.EndRun();
-    context_.platform.screens.Unload(context_.screen);
-  };
+  for (Button* button : {&screen.Command2, &screen.Run.EndRunCommand}) button->on_click = [this] { Leave(); };
   screen.Run.PauseCommand.on_click = [this] { controls_.Pause(); };
   screen.Run.ContinueCommand.on_click = [this] { controls_.Continue(); };
   screen.Run.BeginNextCommand.on_click = [this] { controls_.BeginNext(); };
@@ -72,6 +65,11 @@ void RandomPlayback::ConnectControls() {
   screen.Channels.ConnectBars([this] { return controls_.BarMayContinue(true); },
                               [this] { return controls_.BarMayContinue(false); },
                               [this] { controls_.Continue(); });
+}
+
+void RandomPlayback::Leave() {
+  context_.run.running ? controls_.EndRun() : controls_.Quit();
+  context_.platform.screens.Unload(context_.screen);
 }
 
 void RandomPlayback::Load() {

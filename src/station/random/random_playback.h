@@ -71,6 +71,8 @@ class RandomPlayback {
   /// The screen's load, in its fixed order; also run again by "&Refresh". Ends the program when the library
   /// is too small.
   void Load();
+  /// Ends the run, or quits before one, and takes the screen away.
+  void Leave();
   const RandomContext& context() const { return context_; }
   const DayScheduler& scheduler() const { return scheduler_; }
 

@@ -36,6 +36,23 @@ TEST_F(PickListOverlapTest, Songs_AlternateBetweenTheChannels) {
   EXPECT_EQ(Channels(), (std::vector<int>{1, 2, 1, 2, 1}));
 }
 
+TEST_F(PickListOverlapTest, LastItemOnChannelTwo_PlaysToItsEnd) {
+  SetOverlap(4);
+  PutList({"M0001", "M0002"});
+  StartList();
+  Advance(35s + 900ms);  // M0002 began at 16 s
+  EXPECT_TRUE(Plays(2));
+  Advance(1s);
+  EXPECT_FALSE(IsOpen(kPick));
+  SetRepeat();
+  PutList({"M0001", "M0002"});
+  ForgetAired();
+  station_.PowerCut();
+  StartList();
+  Advance(33s);
+  EXPECT_EQ(AiredIds(), (Ids{"M0001", "M0002", "M0001"})) << "the next round overlaps as any item does";
+}
+
 TEST_F(PickListOverlapTest, Zero_LeavesChannelTwoClosed) {
   PutList({"M0001", "M0002", "M0003"});
   StartList();

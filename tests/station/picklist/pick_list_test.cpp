@@ -168,15 +168,46 @@ TEST_F(PickList, ExpiredSpots_ArePassedOverUntilTheEndlessLoopIsAborted) {
   Advance(25s);
   EXPECT_EQ(AiredIds(), (Ids{"M0001", "M0002"}));
   EXPECT_EQ(LastErrorRow(), "S1 [Kill Date has Passed by -2 days]");
+}
+
+TEST_F(PickList, ExpiredSpots_NeverSoundHoweverManyFollowEachOther) {
+  PutFile("QXAIR/SPOTDRST.DTA", "\"1\"\r\n");
+  AddSpot("S1", 20000, "", "01-01-26", "11-20-26");
+  const char* const aborted = "Endless Loop Aborted: This EXPIRED spot will not play. Press END RUN now!";
+  Ids list(160, "S1");
+  list.push_back("M0001");
+  PutList(list);
+  StartList();
+  EXPECT_EQ(Shown(kPick, "Text1"), aborted);
+  EXPECT_EQ(EventText(), "Event #: 151 out of 161");
+  Advance(2s);
+  EXPECT_EQ(AiredIds(), Ids{"M0001"});
+  EXPECT_EQ(FileText("QXTEMPLT/Sun.LOG").find("\"S1\""), std::string::npos);
   station_.PowerCut();
   ForgetAired();
-  PutList(Ids(160, "S1"));
+
+  SetRepeat();
+  PutList({"S1", "S1", "S1"});
   StartList();
-  EXPECT_EQ(Shown(kPick, "Text1"),
-            "Endless Loop Aborted: This EXPIRED spot will not play. Press END RUN now!");
-  EXPECT_EQ(EventText(), "Event #: 151 out of 160");
+  EXPECT_EQ(Shown(kPick, "Text1"), aborted);
+  const auto rows = [this] { return Rows(kPick, "List6").size(); };
+  const std::size_t first_round = rows();
+  Advance(29s);
+  EXPECT_EQ(rows(), first_round);
+  Advance(2s);
+  EXPECT_EQ(rows(), first_round + 3) << "half a minute between rounds";
+  EXPECT_TRUE(aired().empty());
   Click(kPick, "EndRunCommand");
   EXPECT_FALSE(IsOpen(kPick));
+}
+
+TEST_F(PickList, StartDateAhead_IsLookedAtBeforeTheKillDate) {
+  PutFile("QXAIR/SPOTDRST.DTA", "\"1\"\r\n");
+  AddSpot("S1", 20000, "", "12-25-26", "12--");
+  PutList({"S1", "M0001"});
+  StartList();
+  EXPECT_TRUE(station_.running());
+  EXPECT_EQ(AiredIds(), Ids{"M0001"});
 }
 
 TEST_F(PickList, DateThatIsNone_EndsTheProgram) {

@@ -205,5 +205,26 @@ TEST_F(Overlap, RequeueDuringAnOverlap_TakesBothBackToTheirStart) {
   EXPECT_TRUE(Plays(1) || Plays(2));
 }
 
+/// In about one hand-over of ten the tick of the overlap sees the end of channel 1 before the watcher does.
+class OverlapPhase : public Overlap, public ::testing::WithParamInterface<int> {};
+
+TEST_P(OverlapPhase, LiveAskedOnTheSecondChannelWithASetDue_LeavesNoDeadAir) {
+  AddLibrary(12, 2, 2, 90000 + GetParam() * 60);
+  AddSpot("S1", 20000);
+  Use({.SongsPerLiner = 500, .SongsPerBreak = 500, .MaxSpotsPerBreak = 2, .LinerEnable = 1, .BreakType = 2});
+  PutTemplate("SUN.TPD", {"08:32 PM", "S1"});
+  SetOverlap(5);
+  StartRandomWith("SUN.TPD");
+  Advance(105s);
+  ASSERT_TRUE(Plays(2) && Channel(1).Mode() == ChannelMode::kNotOpen);
+  Click(kForm, "GoLive");
+  Advance(80s);
+  EXPECT_EQ(Shown(kForm, "GoLive"), "LIVE NOW!");
+  Click(kForm, "ContinueCommand");
+  EXPECT_EQ(aired().back().id, "S1");
+}
+
+INSTANTIATE_TEST_SUITE_P(Phases, OverlapPhase, ::testing::Range(0, 17));
+
 }  // namespace
 }  // namespace quixair::testing

@@ -154,6 +154,14 @@ TEST_F(RunControlsOnAir, EndRun_ClosesTheChannelsAndTheScreenAndCleansTheRecord)
   EXPECT_EQ(aired().size(), 1U) << "the next opening waits for the operator";
 }
 
+TEST_F(RunControlsOnAir, WindowClosedInMidRun_EndsTheRunAsItsButtonDoes) {
+  StartRandom();
+  Advance(4s);
+  station_.Do([this] { station_.FindScreen("RandomForm1")->CloseWindow(); });
+  EXPECT_FALSE(IsOpen("RandomForm1"));
+  EXPECT_EQ(FileText("QXAIR/RESET.DTA"), kClean);
+}
+
 TEST_F(RunControlsOnAir, QuitBeforeStart_LeavesTheCleanRecord) {
   StartConsole();
   Menu("RandomPlaybackMode");
