@@ -7,7 +7,6 @@
 #include "station/console/error_log.h"
 #include "station/console/first_use.h"
 #include "station/console/help.h"
-#include "station/console/not_built.h"
 #include "station/console/splash.h"
 #include "station/onair/start_time_prompt.h"
 #include "station/picklist/pick_list_form1.h"
@@ -65,7 +64,6 @@ ScreenRegistry::Catalogue StationScreens() {
       {"MMregOCX", Make<MMregOCX>},
       {"PickListForm1", Make<PickListForm1>},
       {"PickListForm2", Make<PickListForm2>},
-      {"NotBuilt", Make<NotBuilt>},
       {"PickPlayTemplate", Make<PickPlayTemplate>},
       {"PrintPickListTemplate", Make<PrintPickListTemplate>},
       {"PrintRecordingsMDI", Make<PrintRecordingsMDI>},

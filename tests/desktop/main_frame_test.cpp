@@ -75,16 +75,6 @@ TEST_F(MainFrameTest, MenuOpensAScreenAsAChild) {
   EXPECT_EQ(Widget<desktop::RowList>("RandomSetup", "List5").model()->rowCount(), 3);
 }
 
-TEST_F(MainFrameTest, ScreenThatIsNotBuilt_SaysSo) {
-  StartPastSplash();
-  station_.Do([this] { station_.platform().screens.Open("OfLaterYears"); });
-  Rest();
-  EXPECT_THAT(Widget<QLabel>("NotBuilt", "Label1").text().toStdString(),
-              ::testing::HasSubstr("OfLaterYears"));
-  QTest::mouseClick(&Widget<QPushButton>("NotBuilt", "Command1"), Qt::LeftButton);
-  EXPECT_FALSE(IsOpen("NotBuilt"));
-}
-
 TEST_F(MainFrameTest, StationsOwnLine_TakesNoQuoteAndChangesTheTitle) {
   StartPastSplash();
   ChooseMenu("CustomInfo");

@@ -42,10 +42,7 @@ MediaControl& ChannelBank::channel(int number) {
 }
 
 void ChannelBank::Arm() {
-  for (MediaControl* channel : {&MMControl1, &MMControl2}) {
-    channel->SetNotify(true);
-    channel->SetWait(false);
-  }
+  for (MediaControl* channel : {&MMControl1, &MMControl2}) channel->SetNotify(true);
 }
 
 void ChannelBank::PauseAll() {

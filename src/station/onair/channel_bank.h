@@ -23,7 +23,7 @@ class ChannelBank {
 
   MediaControl& channel(int number);
 
-  void Arm();        // before a run: channels 1 and 2 notify and do not wait
+  void Arm();        // before a run: channels 1 and 2 notify
   void PauseAll();   // those of 1, 2, 3 that play
   void ResumeAll();  // those of 1, 2, 3 that are paused
   void RewindAll();

@@ -87,9 +87,7 @@ void PickListControls::ResumeClock() {
     state.RequeuePending = 0;
     return;
   }
-  const auto paused = state.TickTimer - state.PauseStartedAt;
-  state.PausedSecs += std::chrono::duration<double>(paused).count();
-  state.ItemStartTimer += paused;
+  state.ItemStartTimer += state.TickTimer - state.PauseStartedAt;
 }
 
 void PickListControls::Continue() {

@@ -34,7 +34,6 @@ struct PickListState {
   double ProgramTimeNow = 0;
   double SecondsRemaining = 0;
   double ElapsedSecs = 0;
-  double PausedSecs = 0;
   SteadyTime ItemStartTimer{};
   SteadyTime TickTimer{};  // of the latest tick
   SteadyTime PauseStartedAt{};

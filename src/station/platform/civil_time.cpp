@@ -51,10 +51,6 @@ std::string HourMinuteAmPm(const CivilTime& time) {
   return Formatted("%02d:%02d %s", TwelveHour(time.hour), time.minute, HalfOfDay(time.hour));
 }
 
-std::string HourMinute24(const CivilTime& time) {
-  return Formatted("%02d:%02d", time.hour, time.minute);
-}
-
 std::string FourDigitHourMinute(const CivilTime& time) {
   return Formatted("%02d%02d", TwelveHour(time.hour), time.minute);
 }
@@ -87,11 +83,6 @@ std::string ShortDate(const CivilTime& time) {
 
 std::string DayName(const CivilTime& time) {
   return kDayNames.at(static_cast<std::size_t>(time.weekday));
-}
-
-double SecondsSinceMidnight(const CivilTime& time) {
-  const int hundredths = time.millisecond / 10;
-  return time.hour * 3600 + time.minute * 60 + time.second + hundredths * 0.01;
 }
 
 std::optional<std::int64_t> CalendarDay(std::string_view month_day_year, int near_year) {

@@ -13,7 +13,6 @@
 namespace quixair {
 
 std::string HourMinuteAmPm(const CivilTime& time);          // "hh:mm AM/PM": 01:07 PM, midnight 12:00 AM
-std::string HourMinute24(const CivilTime& time);            // "hh:mm": midnight 00:00
 std::string FourDigitHourMinute(const CivilTime& time);     // first four of "hhmm AM/PM": 0107 for 13:07
 std::string HourMinuteSecondLetter(const CivilTime& time);  // "h:mm:ss a/p": 1:07:33 p
 std::string HourMinuteSecondAmPm(const CivilTime& time);    // "HH:MM:SS AM/PM": 01:07:33 PM
@@ -22,8 +21,6 @@ std::string MonthDayYear(const CivilTime& time);            // "mm-dd-yy": 03-07
 std::string MonthDayLongYear(const CivilTime& time);        // "MM-DD-YYYY": 03-07-2001
 std::string ShortDate(const CivilTime& time);               // "ddddd", the system's short date: 3/7/2001
 std::string DayName(const CivilTime& time);                 // "ddd": Mon
-
-double SecondsSinceMidnight(const CivilTime& time);
 
 /// A date text "mm-dd-yy" as days of the calendar; none when it is no date. A two-digit year is the one that
 /// lies nearest to `near_year`, so that a kill date some years ahead never reads as one of the last century.

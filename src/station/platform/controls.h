@@ -389,9 +389,7 @@ class MediaControl : public Control {
   Levels TakeLevels() { return player_->TakeLevels(); }
 
   void SetNotify(bool notify) { notify_ = notify; }
-  void SetWait(bool wait) { wait_ = wait; }
   bool notify() const { return notify_; }
-  bool wait() const { return wait_; }
 
   std::function<void()> on_play_click;
   std::function<void()> on_pause_click;
@@ -405,7 +403,6 @@ class MediaControl : public Control {
   std::string file_name_;
   std::string command_;
   bool notify_ = false;
-  bool wait_ = true;
 };
 
 /// An item of a menu tree; one with items of its own opens them, another raises its click.

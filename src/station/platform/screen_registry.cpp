@@ -1,6 +1,7 @@
 #include "station/platform/screen_registry.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 #include "station/platform/event_gate.h"
 #include "station/platform/recorder_control.h"
@@ -18,16 +19,11 @@ void ScreenRegistry::Open(std::string_view name, const ScreenOpening& opening) {
     if (observer_ != nullptr) observer_->ScreenActivated(*screen);
     return;
   }
-  auto entry = catalogue_.find(name);
-  const bool built = entry != catalogue_.end();
-  if (!built) entry = catalogue_.find("NotBuilt");
+  const auto entry = catalogue_.find(name);
+  if (entry == catalogue_.end()) throw std::out_of_range("no such screen: " + std::string(name));
   std::unique_ptr<Screen> made = entry->second(*platform_);
   Screen& screen = *made;
-  if (built) {
-    screen.Prepare(opening);
-  } else {
-    screen.Prepare({.title = std::string(name), .patterns = {}, .day_files = {}, .captions = {}});
-  }
+  screen.Prepare(opening);
   open_.push_back(std::move(made));
   if (observer_ != nullptr) observer_->ScreenOpened(screen);
   screen.Load();

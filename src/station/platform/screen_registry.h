@@ -1,8 +1,7 @@
 #pragma once
 
 // The screens that are open, and the catalogue of those that can be. It makes a screen by its name, tells the
-// front end, loads it, and destroys an unloaded one when no event is running. A name that the catalogue does
-// not hold opens the screen "NotBuilt" with that name on it.
+// front end, loads it, and destroys an unloaded one when no event is running.
 
 #include <functional>
 #include <map>

@@ -49,15 +49,10 @@ bool ChannelWatcher::WaitWhilePaused() {
   return true;
 }
 
-void ChannelWatcher::CloseAndCount(int number) {
-  channel(number).Command("Close");
-  context_.run.AiredSecondsSum += context_.run.ElapsedSecs;
-}
-
 void ChannelWatcher::RetireFirstAfterOverlap() {
   RunState& run = context_.run;
   if (channel(1).Mode() != ChannelMode::kStopped || run.ActiveChannel != 2 || run.OverlapActive != 1) return;
-  CloseAndCount(1);
+  channel(1).Command("Close");
   run.ActiveChannel = 99;
 }
 
@@ -71,7 +66,6 @@ void ChannelWatcher::HandBack() {
   run.OverlapHandBack = 1;
   run.ActiveChannel = 1;
   run.OverlapActive = 0;
-  channel(1).Command("Close");
   engine_.PlayNextItem();
 }
 
@@ -81,16 +75,12 @@ void ChannelWatcher::StartWhenBothClosed() {
   if (channel(1).Mode() != ChannelMode::kNotOpen || channel(2).Mode() != ChannelMode::kNotOpen) return;
   run.OverlapActive = 0;
   run.ActiveChannel = 1;
-  channel(1).Command("Close");
-  channel(2).Command("Close");
-  channel(2).Command("Close");
   engine_.PlayNextItem();
 }
 
 void ChannelWatcher::EndSecondAfterHandBack() {
   RunState& run = context_.run;
   if (channel(2).Mode() != ChannelMode::kStopped || run.OverlapHandBack != 1) return;
-  CloseAndCount(2);
   channel(2).Command("Close");
   run.OverlapActive = 0;
   run.OverlapHandBack = 0;
@@ -99,18 +89,16 @@ void ChannelWatcher::EndSecondAfterHandBack() {
 /// The ordinary end of an item.
 void ChannelWatcher::EndFirst() {
   if (channel(1).Mode() != ChannelMode::kStopped || context_.run.OverlapActive == 1) return;
-  CloseAndCount(1);
+  channel(1).Command("Close");
   engine_.PlayNextItem();
 }
 
 void ChannelWatcher::EndSecond() {
   RunState& run = context_.run;
   if (channel(2).Mode() == ChannelMode::kStopped && run.ActiveChannel == 99 && run.OverlapActive == 1) {
-    CloseAndCount(2);
     channel(2).Command("Close");
   }
   if (channel(2).Mode() == ChannelMode::kStopped && run.ActiveChannel == 1 && run.OverlapActive == 1) {
-    CloseAndCount(2);
     channel(2).Command("Close");
     run.OverlapActive = 0;
   }
@@ -118,7 +106,7 @@ void ChannelWatcher::EndSecond() {
 
 void ChannelWatcher::EndThird() {
   if (channel(3).Mode() != ChannelMode::kStopped) return;
-  CloseAndCount(3);
+  channel(3).Command("Close");
   engine_.PlayNextItem();
 }
 

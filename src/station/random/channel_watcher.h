@@ -33,7 +33,6 @@ class ChannelWatcher {
   void DropEmptyChannels();
 
   MediaControl& channel(int number);
-  void CloseAndCount(int number);
 
   RandomContext& context_;
   SequencingEngine& engine_;

@@ -10,8 +10,6 @@ namespace {
 constexpr int kMusicComparisons = 1500;
 constexpr int kSpotTries = 50;
 constexpr int kLinerTries = 1000;
-constexpr int kSmallMusicPool = 20;  // too few songs for a test against the last eleven
-constexpr int kLastSongs = 11;
 constexpr int kMaxHandOvers =
     10000;  // from rule to rule; draws that are bounded by their own counters stay far below
 
@@ -93,18 +91,7 @@ ItemSelection::Rule ItemSelection::SelectMusic(int& compared, WorkingItem& item)
     if (compared >= kMusicComparisons) history.Clear(history.position());
     return Rule::kDecide;
   }
-  if (pools_.music.count() >= kSmallMusicPool && AmongLastEleven(song.RecordingId)) return Rule::kDecide;
   return AcceptSong(song);
-}
-
-/// The whole history was searched before, so this can only repeat that search; it is kept in this order.
-bool ItemSelection::AmongLastEleven(std::string_view id) const {
-  const PlayHistory& history = state_.MusicHistory;
-  if (history.position() <= kLastSongs + 1) return false;
-  for (int slot = history.position() - kLastSongs + 1; slot <= history.position(); ++slot) {
-    if (history.slot(slot) == id) return true;
-  }
-  return false;
 }
 
 ItemSelection::Rule ItemSelection::AcceptSong(const PoolRow& song) {

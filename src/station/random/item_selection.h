@@ -58,7 +58,6 @@ class ItemSelection {
   Rule EndBreak();
   Rule GiveUpOnSpots();
   bool ProductHeardInBreak(const std::string& product) const;
-  bool AmongLastEleven(std::string_view id) const;
 
   const RandomSettings& settings_;
   const RotationPools& pools_;

@@ -47,8 +47,7 @@ bool OverlapWatcher::HeldOff() const {
   const bool break_next =
       rotation.SongsSinceBreak == settings.SongsPerBreak && settings.BreakType == break_type::kInternalRandom;
   const bool break_running = rotation.SpotsInBreak > 1 && rotation.SpotsInBreak < settings.MaxSpotsPerBreak;
-  const bool last_spot = rotation.SpotsInBreak == settings.MaxSpotsPerBreak &&
-                         (settings.LinerEnable == 1 || settings.LinerEnable == 0);
+  const bool last_spot = rotation.SpotsInBreak == settings.MaxSpotsPerBreak;
   return break_next || break_running || last_spot || run.LiveRequested == 1 || run.AudioPaused == 1;
 }
 

@@ -40,7 +40,6 @@ RandomPlayback::RandomPlayback(RandomForm1& screen)
       scheduler_(context_),
       watcher_(context_, engine_, controls_, scheduler_),
       overlap_(context_, engine_) {
-  engine_.press_start = [this] { controls_.Start(); };
   scheduler_.press_start = [this] { controls_.Start(); };
   ConnectControls();
 }

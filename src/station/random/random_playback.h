@@ -26,8 +26,7 @@ class RandomForm1;
 
 /// The flags of a run, 0 or 1 where no more is said.
 struct RunState {
-  bool running = false;       // from Start to the end of the run
-  int restart_requested = 0;  // the next step presses Start first
+  bool running = false;  // from Start to the end of the run
   int begin_next = 0;
   int LiveRequested = 0;
   bool live_now = false;  // the request has taken effect: silent until Continue
@@ -45,9 +44,6 @@ struct RunState {
   SteadyTime ItemStartTimer{};
   SteadyTime pause_started{};
   double ElapsedSecs = 0;
-  double AiredSecondsSum = 0;
-  double skipped_seconds_sum = 0;
-  double paused_seconds_sum = 0;
   int RestartPending = 0;    // the load found the record of a run that a power cut ended
   std::string TemplateName;  // "MON.TPD", a custom name, or "Null" when the operator declined
 };

@@ -22,7 +22,6 @@ void RunControls::Start() {
   const CivilTime now = context_.platform.clock.Now();
   context_.platform.random.Randomize(static_cast<std::uint64_t>(MillisecondsFromCivil(now)));
   context_.rotation = RotationState();
-  run.restart_requested = 0;
   run.running = true;
   engine_.PlayNextItem();
 }
@@ -66,7 +65,6 @@ void RunControls::ResumeClock() {
     run.requeue = 0;
     return;
   }
-  run.paused_seconds_sum += SecondsBetween(run.pause_started, now);
   run.ItemStartTimer += now - run.pause_started;
 }
 
@@ -98,7 +96,6 @@ void RunControls::BeginNext() {
   for (int number = 1; number <= 3; ++number) {
     MediaControl& channel = screen.Channels.channel(number);
     if (channel.Mode() != ChannelMode::kNotOpen) {
-      if (number < 3) run.skipped_seconds_sum += channel.Length() / 1000.0;
       channel.Command("Close");
     }
     if (number == 2) run.OverlapActive = 0;
@@ -133,7 +130,6 @@ void RunControls::EndRun() {
   SkipAndGoOn(WriteCleanExitRecord(context_.platform.files));
   context_.run = RunState();
   context_.rotation = RotationState();
-  context_.run.restart_requested = 1;
 }
 
 void RunControls::Quit() {

@@ -43,18 +43,13 @@ void SequencingEngine::PlayNextItem() {
 }
 
 void SequencingEngine::Step() {
-  RunState& run = context_.run;
-  if (run.restart_requested == 1) {
-    press_start();
-    run.restart_requested = 0;
-  }
   RememberLastItem();
-  if (run.LiveRequested == 1) {
+  if (context_.run.LiveRequested == 1) {
     HoldForLive();
     return;
   }
   if (!TakeLegalId(item_)) {
-    if (run.StopSetActive == 1) {
+    if (context_.run.StopSetActive == 1) {
       PlayStopSetRow();
       return;
     }
@@ -100,7 +95,6 @@ void SequencingEngine::StartItem(const WorkingItem& item) {
   if (IsSpotId(item.RecordingId)) CheckSpot(item);
   ShowHint(item);
   ShowItem(item);
-  CloseIdleChannel();
   Play(1, started);
   StartOnFreeChannel(item, started);
   Verify(item, started);
@@ -164,13 +158,6 @@ void SequencingEngine::ShowItem(const WorkingItem& item) {
   screen.CurrLabel[1].SetCaption(' ' + item.Title);
   screen.CurrLabel[2].SetCaption(" Length:   " + item.Length);
   screen.CurrLabel[3].SetCaption(" Elapsed: ");
-}
-
-void SequencingEngine::CloseIdleChannel() {
-  MediaControl& channel = context_.screen.Channels.MMControl1;
-  if (channel.Mode() != ChannelMode::kNotOpen || context_.run.OverlapActive != 0) return;
-  channel.Command("Close");
-  channel.Command("Close");
 }
 
 /// Also sent before an item is opened, when it does nothing on the closed channel; behind a nested step it

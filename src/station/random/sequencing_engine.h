@@ -9,7 +9,6 @@
 // wanted; a reviewer should expect it. The nesting is bounded: when nothing can be opened at all, the
 // innermost call returns at once and the watcher tries again at its later ticks.
 
-#include <functional>
 #include <optional>
 #include <string>
 
@@ -27,9 +26,6 @@ class SequencingEngine {
 
   explicit SequencingEngine(RandomContext& context);
   void PlayNextItem();
-
-  /// Presses Start when a run was asked for by a flag.
-  std::function<void()> press_start;
 
  private:
   /// What became of an item on its way to a channel.
@@ -49,7 +45,6 @@ class SequencingEngine {
   void Refuse(const std::string& row);
   void ShowHint(const WorkingItem& item);
   void ShowItem(const WorkingItem& item);
-  void CloseIdleChannel();
   void StartOnFreeChannel(const WorkingItem& item, Started& started);
   void OpenAndPlay(int number, const WorkingItem& item, Started& started);
   void Play(int number, Started& started);

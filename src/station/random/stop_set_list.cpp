@@ -22,7 +22,6 @@ void ReadData(Files& files, StopSetRow& row) {
   std::vector<std::string> fields = ReadLeadingFields(files, row.EventId, kDataLines);
   row.Length = std::move(fields[0]);
   row.Drive = std::move(fields[2]);
-  row.field4 = std::move(fields[3]);
   row.Title = std::move(fields[4]);
 }
 

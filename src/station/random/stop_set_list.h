@@ -20,7 +20,6 @@ struct StopSetRow {
   std::string second;   // the template's second value
   std::string Length;   // from the data file, as what follows; empty for a row without one
   std::string Drive;
-  std::string field4;
   std::string Title;
   bool marked = false;  // had its turn
 

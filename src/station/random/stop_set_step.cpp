@@ -15,7 +15,6 @@ void SequencingEngine::PlayStopSetRow() {
   MediaControl& channel = context_.screen.Channels.MMControl1;
   ++run.StopSetIndex;
   channel.Command("Close");
-  channel.Command("Close");
   const bool past_the_end = run.StopSetIndex > context_.stop_sets.count();
   if (past_the_end || context_.stop_sets.row(run.StopSetIndex).kind == EventKind::kLocalBreak) {
     run.StopSetActive = 0;  // the watcher finds both channels closed and goes back to the rotation

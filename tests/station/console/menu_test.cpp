@@ -93,17 +93,13 @@ class ConsoleMenu : public StationFixture {
       happened_.push_back("run " + command_line + states[static_cast<int>(window)]);
     };
     station_.on_screen = [this](const std::string& name, bool opened) {
-      if (opened) happened_.push_back("screen " + (name == "NotBuilt" ? NamedByNotBuilt() : name));
+      if (opened) happened_.push_back("screen " + name);
     };
     station_.dialogs().on_box = [this](const simulation::ShownBox& box) {
       happened_.push_back("box");
       last_box_ = box.text;
     };
     station_.programs().on_keys = [this](const std::string& keys) { happened_.push_back("keys " + keys); };
-  }
-  std::string NamedByNotBuilt() {
-    const std::string text = Shown("NotBuilt", "Label1");
-    return text.substr(text.rfind(' ') + 1);
   }
   /// Starts anew and chooses; what came of it.
   std::vector<std::string> Choose(std::string_view item) {

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "station/console/not_built.h"
 #include "support/station_fixture.h"
 
 namespace quixair::testing {
@@ -55,7 +54,7 @@ class Registry : public StationFixture, public ScreensObserver {
   std::unique_ptr<Platform> platform_;
   ScreenRegistry screens_{{
       {"Child", [this](const Platform& p) { return std::make_unique<Child>(p, said_); }},
-      {"NotBuilt", [](const Platform& p) { return std::make_unique<NotBuilt>(p); }},
+      {"Another", [](const Platform& p) { return std::make_unique<Screen>(p, "Another", ""); }},
   }};
 };
 
@@ -101,19 +100,12 @@ TEST_F(Registry, OpenedTwice_ComesToTheFrontAsItIs) {
   EXPECT_EQ(child().title(), "Child");
 }
 
-TEST_F(Registry, UnknownName_OpensThePlainChildThatNamesIt) {
-  screens_.Open("RecordSpot", {.title = "of the caller", .patterns = {}, .day_files = {}, .captions = {}});
-  Screen* plain = screens_.Find("NotBuilt");
-  ASSERT_NE(plain, nullptr);
-  EXPECT_NE(plain->FindControl("Label1")->shown_text().find("RecordSpot"), std::string::npos);
-}
-
 TEST_F(Registry, ProgramGone_ScreensCloseInReverseOrder) {
   screens_.Open("Child");
   screens_.Open("Another");
   said_.clear();
   screens_.CloseAll();
-  EXPECT_EQ(said_, "close NotBuilt;close Child;gone;");
+  EXPECT_EQ(said_, "close Another;close Child;gone;");
 }
 
 }  // namespace
