@@ -13,9 +13,9 @@
 #include "station/console/value_form.h"
 #include "station/library/recording_file.h"
 #include "station/platform/civil_time.h"
-#include "station/platform/controls.h"
-#include "station/platform/screen.h"
 #include "station/platform/text.h"
+#include "station/screen/controls.h"
+#include "station/screen/screen.h"
 #include "station/templates/template_file.h"
 
 namespace quixair::bench {

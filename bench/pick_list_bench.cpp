@@ -3,8 +3,8 @@
 #include <benchmark/benchmark.h>
 
 #include "bench_station.h"
-#include "station/platform/controls.h"
-#include "station/platform/screen.h"
+#include "station/screen/controls.h"
+#include "station/screen/screen.h"
 
 namespace quixair::bench {
 namespace {

@@ -4,10 +4,10 @@
 #include <benchmark/benchmark.h>
 
 #include "bench_station.h"
-#include "station/platform/controls.h"
 #include "station/platform/engine_random.h"
-#include "station/platform/screen.h"
 #include "station/random/item_selection.h"
+#include "station/screen/controls.h"
+#include "station/screen/screen.h"
 
 namespace quixair::bench {
 namespace {

@@ -15,13 +15,13 @@
 #include "desktop/theme.h"
 #include "sound/capture_system.h"
 #include "sound/sound_system.h"
-#include "station/platform/disk_files.h"
-#include "station/platform/drives.h"
+#include "station/host/disk_files.h"
+#include "station/host/drives.h"
+#include "station/host/system_clock.h"
 #include "station/platform/engine_random.h"
 #include "station/platform/event_gate.h"
 #include "station/platform/platform.h"
-#include "station/platform/screen_registry.h"
-#include "station/platform/system_clock.h"
+#include "station/screen/screen_registry.h"
 #include "station/screen_catalogue.h"
 
 int main(int argc, char** argv) {

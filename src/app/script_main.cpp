@@ -10,8 +10,8 @@
 #include "script/script_runner.h"
 #include "simulation/simulated_station.h"
 #include "sound/length_cache.h"
-#include "station/platform/drives.h"
-#include "station/platform/system_clock.h"
+#include "station/host/drives.h"
+#include "station/host/system_clock.h"
 
 namespace {
 

@@ -13,7 +13,7 @@
 
 #include "desktop/binding.h"
 #include "desktop/views/screen_view.h"
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair::desktop {
 

@@ -15,7 +15,7 @@
 #include "desktop/row_list.h"
 #include "desktop/station_text.h"
 #include "desktop/views/transport_bar.h"
-#include "station/platform/grid.h"
+#include "station/screen/grid.h"
 
 namespace quixair::desktop {
 namespace {

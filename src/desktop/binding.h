@@ -10,7 +10,7 @@
 #include <functional>
 #include <memory>
 
-#include "station/platform/controls.h"
+#include "station/screen/controls.h"
 
 namespace quixair::desktop {
 

@@ -8,7 +8,7 @@
 #include <functional>
 #include <unordered_map>
 
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair::desktop {
 

@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "desktop/station_text.h"
-#include "station/platform/grid.h"
+#include "station/screen/grid.h"
 
 namespace quixair::desktop {
 namespace {

@@ -12,7 +12,7 @@
 #include "desktop/access_keys.h"
 #include "desktop/console_menu.h"
 #include "desktop/screen_window.h"
-#include "station/platform/screen_registry.h"
+#include "station/screen/screen_registry.h"
 
 class QLabel;
 class QMdiArea;

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "desktop/station_text.h"
-#include "station/platform/controls.h"
+#include "station/screen/controls.h"
 
 namespace quixair::desktop {
 namespace {

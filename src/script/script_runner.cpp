@@ -4,10 +4,10 @@
 #include <charconv>
 #include <cstdio>
 
-#include "station/platform/controls.h"
-#include "station/platform/grid.h"
-#include "station/platform/screen.h"
 #include "station/platform/text.h"
+#include "station/screen/controls.h"
+#include "station/screen/grid.h"
+#include "station/screen/screen.h"
 
 namespace quixair::script {
 namespace {

@@ -12,11 +12,11 @@
 #include "simulation/simulated_capture.h"
 #include "simulation/simulated_media.h"
 #include "simulation/virtual_time.h"
-#include "station/platform/disk_files.h"
+#include "station/host/disk_files.h"
 #include "station/platform/engine_random.h"
 #include "station/platform/event_gate.h"
 #include "station/platform/platform.h"
-#include "station/platform/screen_registry.h"
+#include "station/screen/screen_registry.h"
 
 namespace quixair::simulation {
 

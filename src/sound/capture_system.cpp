@@ -1,7 +1,7 @@
 #include "sound/capture_system.h"
 
 #include "sound/input_recorder.h"
-#include "station/platform/host_file.h"
+#include "station/host/host_file.h"
 
 namespace quixair::sound {
 

@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <utility>
 
-#include "station/platform/host_file.h"
+#include "station/host/host_file.h"
 
 namespace quixair::sound {
 namespace {

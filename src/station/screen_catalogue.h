@@ -2,7 +2,7 @@
 
 // The list of the station's screens by name: the one place to add a new one.
 
-#include "station/platform/screen_registry.h"
+#include "station/screen/screen_registry.h"
 
 namespace quixair {
 

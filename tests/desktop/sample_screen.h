@@ -15,8 +15,8 @@
 #include "desktop/grid_table.h"
 #include "desktop/row_list.h"
 #include "desktop/views/transport_bar.h"
-#include "station/platform/grid.h"
-#include "station/platform/screen.h"
+#include "station/screen/grid.h"
+#include "station/screen/screen.h"
 
 namespace quixair::testing {
 

@@ -11,8 +11,8 @@
 #include "desktop/views/stop_set_panel.h"
 #include "desktop/views/warning_banner.h"
 #include "station/platform/civil_time.h"
-#include "station/platform/controls.h"
-#include "station/platform/screen.h"
+#include "station/screen/controls.h"
+#include "station/screen/screen.h"
 #include "support/station_fixture.h"
 
 namespace quixair::testing {

@@ -13,9 +13,9 @@
 #include <regex>
 #include <thread>
 
+#include "station/host/system_clock.h"
 #include "station/library/recording_file.h"
 #include "station/platform/civil_time.h"
-#include "station/platform/system_clock.h"
 #include "station/platform/text.h"
 #include "support/outside_programs.h"
 #include "support/station_fixture.h"

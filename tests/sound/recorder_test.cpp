@@ -14,7 +14,7 @@
 #include "sound/capture_system.h"
 #include "sound/input_recorder.h"
 #include "sound/sound_files.h"
-#include "station/platform/host_file.h"
+#include "station/host/host_file.h"
 #include "support/outside_programs.h"
 
 namespace quixair::sound {

@@ -18,9 +18,9 @@
 #include <vector>
 
 #include "simulation/simulated_station.h"
-#include "station/platform/controls.h"
-#include "station/platform/screen.h"
 #include "station/random/random_settings.h"
+#include "station/screen/controls.h"
+#include "station/screen/screen.h"
 
 namespace quixair::testing {
 

@@ -1,6 +1,6 @@
 #include "desktop/views/air_view.h"
 
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair::desktop {
 

@@ -5,7 +5,7 @@
 #include "desktop/station_text.h"
 #include "desktop/views/fitted_text.h"
 #include "station/platform/civil_time.h"
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair::desktop {
 namespace {

@@ -3,8 +3,8 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "station/platform/recorder_control.h"
-#include "station/platform/screen.h"
+#include "station/screen/recorder_control.h"
+#include "station/screen/screen.h"
 
 namespace quixair::desktop {
 namespace {

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "station/platform/controls.h"
+#include "station/screen/controls.h"
 
 namespace quixair::desktop {
 namespace {

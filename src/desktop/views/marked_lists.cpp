@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "station/platform/civil_time.h"
-#include "station/platform/controls.h"
-#include "station/platform/screen.h"
 #include "station/platform/text.h"
 #include "station/random/stop_set_list.h"
+#include "station/screen/controls.h"
+#include "station/screen/screen.h"
 #include "station/templates/template_file.h"
 
 namespace quixair::desktop {

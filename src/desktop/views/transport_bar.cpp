@@ -4,7 +4,7 @@
 #include <QLabel>
 
 #include "desktop/views/transport_button.h"
-#include "station/platform/controls.h"
+#include "station/screen/controls.h"
 
 namespace quixair::desktop {
 namespace {

@@ -2,7 +2,7 @@
 
 // frmAbout, the program's name and version, whom to ask, and the way to the system's own information.
 
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

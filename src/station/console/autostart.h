@@ -4,7 +4,7 @@
 // with it whether the program starts with the desktop session.
 
 #include "station/platform/run_time_error.h"
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

@@ -5,7 +5,7 @@
 // screens by name, after writing what a screen expects to be handed, and starts outside programs.
 
 #include "station/platform/run_time_error.h"
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

@@ -2,7 +2,7 @@
 
 // CustomInformation, where the station enters its own line for the title of the main window.
 
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

@@ -2,7 +2,7 @@
 
 // ErrorLog, the small screen from which the engineer reads and clears the station's error log.
 
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

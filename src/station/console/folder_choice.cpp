@@ -1,7 +1,7 @@
 #include "station/console/folder_choice.h"
 
 #include "station/platform/dialogs.h"
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 namespace {

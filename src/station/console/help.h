@@ -2,7 +2,7 @@
 
 // QXHelp, the table of the manual's sections. Each button opens one document in the system's word processor.
 
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

@@ -2,7 +2,7 @@
 
 // frmSplash, the picture shown while the program starts; a key or a click takes it away.
 
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "station/platform/screen.h"
 #include "station/platform/text.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 namespace {
@@ -47,30 +47,30 @@ void ChannelBank::Arm() {
 
 void ChannelBank::PauseAll() {
   for (MediaControl* channel : {&MMControl1, &MMControl2, &MMControl3}) {
-    if (channel->Mode() == ChannelMode::kPlaying) channel->Command("Pause");
+    if (channel->Mode() == ChannelMode::kPlaying) channel->Command(ChannelCommand::kPause);
   }
 }
 
 void ChannelBank::ResumeAll() {
   for (MediaControl* channel : {&MMControl1, &MMControl2, &MMControl3}) {
-    if (channel->Mode() == ChannelMode::kPaused) channel->Command("Play");
+    if (channel->Mode() == ChannelMode::kPaused) channel->Command(ChannelCommand::kPlay);
   }
 }
 
 void ChannelBank::RewindAll() {
-  for (MediaControl* channel : {&MMControl1, &MMControl2, &MMControl3}) channel->Command("Prev");
+  for (MediaControl* channel : {&MMControl1, &MMControl2, &MMControl3})
+    channel->Command(ChannelCommand::kPrev);
 }
 
 void ChannelBank::CloseAll() {
-  for (MediaControl* channel : {&MMControl1, &MMControl2, &MMControl3}) channel->Command("close");
+  for (MediaControl* channel : {&MMControl1, &MMControl2, &MMControl3})
+    channel->Command(ChannelCommand::kClose);
 }
 
 void ChannelBank::SweepEnded() {
   for (MediaControl* channel : {&MMControl1, &MMControl2}) {
-    if (EqualsIgnoringCase(channel->last_command(), "Play") && channel->Position() >= channel->Length() &&
-        channel->Position() != 0) {
-      channel->Command("Close");
-    }
+    const bool at_its_end = channel->Mode() == ChannelMode::kStopped && channel->Position() != 0;
+    if (at_its_end) channel->Command(ChannelCommand::kClose);
   }
 }
 
@@ -105,7 +105,7 @@ void ChannelBank::ConnectBars(const std::function<bool()>& play_allowed,
 
 int OpenFile(MediaControl& channel, const std::string& path) {
   channel.SetFileName(path);
-  channel.Command("Open");
+  channel.Command(ChannelCommand::kOpen);
   return channel.Length();
 }
 

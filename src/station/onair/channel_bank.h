@@ -6,7 +6,7 @@
 #include <array>
 #include <functional>
 
-#include "station/platform/controls.h"
+#include "station/screen/controls.h"
 
 namespace quixair {
 

@@ -1,6 +1,6 @@
 #include "station/onair/error_list.h"
 
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "station/platform/controls.h"
+#include "station/screen/controls.h"
 
 namespace quixair {
 

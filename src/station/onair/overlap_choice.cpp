@@ -4,8 +4,8 @@
 
 #include "station/console/settings_files.h"
 #include "station/console/station_paths.h"
-#include "station/platform/screen.h"
 #include "station/platform/text.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

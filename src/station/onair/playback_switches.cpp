@@ -3,7 +3,7 @@
 #include "station/console/settings_files.h"
 #include "station/console/station_paths.h"
 #include "station/library/item_resolution.h"
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

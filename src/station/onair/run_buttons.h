@@ -3,7 +3,7 @@
 // The operator's buttons during a run and what they look like in each of its states, the same in both
 // playback modes. What a press does is the mode's.
 
-#include "station/platform/controls.h"
+#include "station/screen/controls.h"
 
 namespace quixair {
 

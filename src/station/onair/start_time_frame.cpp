@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "station/platform/dialogs.h"
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 namespace {

@@ -124,7 +124,7 @@ void PickListControls::SkipChannel(int number) {
     state.ProgramTimeNow = state.ProgramTimeSum + state.ElapsedSecs;
     state.ProgramTimeSum = state.ProgramTimeNow;
   }
-  channel.Command("Close");
+  channel.Command(ChannelCommand::kClose);
 }
 
 void PickListControls::BeginNext() {

@@ -246,7 +246,7 @@ bool PickListEngine::AnnounceTime() {
   state.ActiveChannel = 1;
   state.ItemStartTimer = context_.platform.clock.Steady();
   if (length != 0) {
-    channel.Command("Play");
+    channel.Command(ChannelCommand::kPlay);
     screen.CurrLabel[2].SetCaption(" Length:   " + ShortestSeconds(length));
     screen.CurrLabel[3].SetCaption(" ");
     screen.CurrLabel[4].SetCaption('(' + channel.file_name() + ')');
@@ -255,7 +255,7 @@ bool PickListEngine::AnnounceTime() {
   }
   const std::string row = channel.file_name() + " = Empty!!!";
   context_.faults.Add(row, ' ' + row);
-  channel.Command("Close");
+  channel.Command(ChannelCommand::kClose);
   ++state.CurrentEvent;
   PlayNextEvent();
   return false;
@@ -278,7 +278,7 @@ bool PickListEngine::StartOnFirst() {
   OpenCurrent(channel);
   if (channel.Length() == 0) {
     TellEmpty(channel);
-    channel.Command("Close");
+    channel.Command(ChannelCommand::kClose);
     ++state.CurrentEvent;
     PlayNextEvent();
     if (state.run_over) return false;
@@ -297,7 +297,7 @@ bool PickListEngine::StartOnSecond() {
     OpenCurrent(channel);
     if (channel.Length() == 0) {
       TellEmpty(channel);
-      channel.Command("Close");
+      channel.Command(ChannelCommand::kClose);
     }
   }
   Play(2);
@@ -327,7 +327,7 @@ void PickListEngine::TellEmpty(const MediaControl& channel) {
 void PickListEngine::Play(int number) {
   PickListForm1& screen = context_.screen;
   MediaControl& channel = screen.Channels.channel(number);
-  channel.Command("Play");
+  channel.Command(ChannelCommand::kPlay);
   start_time_ = HourMinuteSecondAmPm(context_.platform.clock.Now());
   context_.state.ActiveChannel = number;
   screen.CurrLabel[2].SetCaption(" Length:   " + ShortestSeconds(channel.Length()));

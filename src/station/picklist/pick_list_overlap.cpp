@@ -32,7 +32,7 @@ void PickListOverlap::AbortCompeting() {
   ChannelBank& channels = context_.screen.Channels;
   if (!channels.TwoSongsBegan(kTogetherMilliseconds)) return;
   context_.faults.Add("Competing Overlap Aborted", " Competing Overlap Aborted");
-  channels.MMControl2.Command("Close");
+  channels.MMControl2.Command(ChannelCommand::kClose);
 }
 
 bool PickListOverlap::MayOverlap() const {

@@ -108,8 +108,8 @@ void PickListPlayback::PrepareScreen() {
     control->Hide();
   }
   screen.Timer2.SetEnabled(true);
-  screen.Channels.MMControl1.Command("close");
-  screen.Channels.MMControl2.Command("close");
+  screen.Channels.MMControl1.Command(ChannelCommand::kClose);
+  screen.Channels.MMControl2.Command(ChannelCommand::kClose);
   screen.Switches.ReadFiles();
   screen.Text1.SetText("Loading data for PICKLIST.DTA...");
   context_.state.PikModeValue =

@@ -71,7 +71,7 @@ void PickListWatcher::RetireFirstAfterOverlap() {
   if (channel(1).Mode() != ChannelMode::kStopped || state.ActiveChannel != 2 || state.OverlapActive != 1) {
     return;
   }
-  channel(1).Command("close");
+  channel(1).Command(ChannelCommand::kClose);
   state.ActiveChannel = 99;
 }
 
@@ -93,7 +93,7 @@ void PickListWatcher::HandBack() {
   state.ActiveChannel = 1;
   state.OverlapActive = 0;
   ++state.CurrentEvent;
-  channel(1).Command("Close");
+  channel(1).Command(ChannelCommand::kClose);
   engine_.PlayNextEvent();
 }
 
@@ -102,7 +102,7 @@ void PickListWatcher::EndSecondWhileFirstIsClosed() {
   if (channel(2).Mode() == ChannelMode::kPlaying || state.ActiveChannel != 99 || state.OverlapActive != 1)
     return;
   if (channel(2).Mode() == ChannelMode::kStopped && state.OverlapHandBack == 1) {
-    channel(2).Command("close");
+    channel(2).Command(ChannelCommand::kClose);
     state.OverlapActive = 0;
     state.OverlapHandBack = 0;
   }
@@ -113,7 +113,7 @@ void PickListWatcher::EndSecondAfterHandBack() {
   PickListState& state = context_.state;
   if (channel(2).Mode() != ChannelMode::kStopped || state.ActiveChannel != 1 || state.OverlapActive != 1)
     return;
-  channel(2).Command("close");
+  channel(2).Command(ChannelCommand::kClose);
   state.OverlapActive = 0;
   GoOn();
 }
@@ -122,7 +122,7 @@ void PickListWatcher::EndSecondAfterHandBack() {
 void PickListWatcher::EndSecond() {
   PickListState& state = context_.state;
   if (channel(2).Mode() != ChannelMode::kStopped || state.ActiveChannel != 2) return;
-  channel(1).Command("Close");
+  channel(1).Command(ChannelCommand::kClose);
   state.OverlapActive = 0;
   GoOn();
 }
@@ -131,7 +131,7 @@ void PickListWatcher::EndSecond() {
 void PickListWatcher::EndFirst() {
   PickListState& state = context_.state;
   if (channel(1).Mode() != ChannelMode::kStopped || state.ActiveChannel != 1) return;
-  channel(1).Command("Close");
+  channel(1).Command(ChannelCommand::kClose);
   state.OverlapActive = 0;
   GoOn();
 }

@@ -1,73 +1,27 @@
 #pragma once
 
-// The copy of one large file, so that the air never waits for a disk. It grows under a name of its own beside
-// its place, "<stem>.COPYING", and gets its name when the disk has taken all of it: a copy that is given up, or
-// that the program's end cuts off, leaves no half file there. A busy disk holds up a plain write for a tenth
-// of a second and more; so a helper thread moves the bytes and waits for the disk. It holds nothing but the
-// two open files. The owner's timer looks after it by Step. In virtual time, where nothing may depend on a
-// thread's pace, Step itself moves a piece at a time.
+// The copy of one large file, so that the air never waits for a disk. Nothing lies under the file's name before
+// the disk has taken all of it: a copy that is given up, or that the program's end cuts off, leaves no half
+// file there. The owner's timer looks after it by Step.
 //
 //   auto copy = files.BeginCopy(from, to);           // then, at each tick:
 //   const Status moved = copy.value()->Step();
 //   if (moved.ok() && copy.value()->done()) ...
 
-#include <sys/types.h>
-
-#include <atomic>
-#include <future>
-#include <memory>
-#include <string>
-#include <utility>
-
-#include "station/platform/host_file.h"
 #include "station/platform/run_time_error.h"
 
 namespace quixair {
 
 class FileCopy {
  public:
-  enum class Pace { kBeside, kByStep };
-  /// `name` in `folder`, both of the host. 76 when there is no such folder, 61 when there is no room. kBeside
-  /// has the copy on the disk before it is done.
-  static Result<std::unique_ptr<FileCopy>> Begin(const std::string& source, const std::string& folder,
-                                                 const std::string& name, Pace pace);
   /// One that is not done takes back what it wrote.
-  ~FileCopy();
-  FileCopy(const FileCopy&) = delete;
-  FileCopy& operator=(const FileCopy&) = delete;
+  virtual ~FileCopy() = default;
 
   /// How it goes on; takes next to no time. After a fault nothing is left of it.
-  Status Step();
-  bool done() const { return stage_ == Stage::kDone; }
+  virtual Status Step() = 0;
+  virtual bool done() const = 0;
   /// 0 to 1.
-  double progress() const;
-
- private:
-  struct Work {
-    Work(host_file::Descriptor from, host_file::Descriptor to)
-        : source(std::move(from)), target(std::move(to)) {}
-    host_file::Descriptor source;
-    host_file::Descriptor target;
-    std::atomic<off_t> moved = 0;
-    std::atomic<bool> given_up = false;
-  };
-  enum class Stage { kMoving, kNaming, kDone, kGivenUp };
-
-  FileCopy(std::shared_ptr<Work> work, std::string growing, std::string place, Pace pace);
-  /// True at the end of the source.
-  static Result<bool> MovePiece(Work& work);
-  static Status MoveAll(Work& work);
-  Status MoveByStep();
-  Status TakePlace();
-  Status GiveUp(const Status& fault);
-
-  const std::shared_ptr<Work> work_;  // with the helper thread, which may outlive this
-  const std::string growing_;
-  const std::string place_;
-  const Pace pace_;
-  const off_t size_;  // as it was at the start
-  Stage stage_ = Stage::kMoving;
-  std::future<Status> beside_;
+  virtual double progress() const = 0;
 };
 
 }  // namespace quixair

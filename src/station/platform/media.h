@@ -20,6 +20,9 @@ enum class ChannelMode : std::int32_t {
   kPaused = 529,
 };
 
+/// What a channel can be told. kPrev is back to the first sample.
+enum class ChannelCommand { kOpen, kPlay, kPause, kPrev, kClose };
+
 /// Peaks since the last look, 0 to 1, for the level meters.
 struct Levels {
   float left = 0;

@@ -52,7 +52,7 @@ bool ChannelWatcher::WaitWhilePaused() {
 void ChannelWatcher::RetireFirstAfterOverlap() {
   RunState& run = context_.run;
   if (channel(1).Mode() != ChannelMode::kStopped || run.ActiveChannel != 2 || run.OverlapActive != 1) return;
-  channel(1).Command("Close");
+  channel(1).Command(ChannelCommand::kClose);
   run.ActiveChannel = 99;
 }
 
@@ -81,7 +81,7 @@ void ChannelWatcher::StartWhenBothClosed() {
 void ChannelWatcher::EndSecondAfterHandBack() {
   RunState& run = context_.run;
   if (channel(2).Mode() != ChannelMode::kStopped || run.OverlapHandBack != 1) return;
-  channel(2).Command("Close");
+  channel(2).Command(ChannelCommand::kClose);
   run.OverlapActive = 0;
   run.OverlapHandBack = 0;
 }
@@ -89,31 +89,31 @@ void ChannelWatcher::EndSecondAfterHandBack() {
 /// The ordinary end of an item.
 void ChannelWatcher::EndFirst() {
   if (channel(1).Mode() != ChannelMode::kStopped || context_.run.OverlapActive == 1) return;
-  channel(1).Command("Close");
+  channel(1).Command(ChannelCommand::kClose);
   engine_.PlayNextItem();
 }
 
 void ChannelWatcher::EndSecond() {
   RunState& run = context_.run;
   if (channel(2).Mode() == ChannelMode::kStopped && run.ActiveChannel == 99 && run.OverlapActive == 1) {
-    channel(2).Command("Close");
+    channel(2).Command(ChannelCommand::kClose);
   }
   if (channel(2).Mode() == ChannelMode::kStopped && run.ActiveChannel == 1 && run.OverlapActive == 1) {
-    channel(2).Command("Close");
+    channel(2).Command(ChannelCommand::kClose);
     run.OverlapActive = 0;
   }
 }
 
 void ChannelWatcher::EndThird() {
   if (channel(3).Mode() != ChannelMode::kStopped) return;
-  channel(3).Command("Close");
+  channel(3).Command(ChannelCommand::kClose);
   engine_.PlayNextItem();
 }
 
 void ChannelWatcher::DropEmptyChannels() {
   for (int number = 1; number <= 3; ++number) {
     if (channel(number).Mode() == ChannelMode::kNotOpen || channel(number).Length() != 0) continue;
-    channel(number).Command("Close");
+    channel(number).Command(ChannelCommand::kClose);
     engine_.PlayNextItem();
   }
 }

@@ -11,7 +11,7 @@ namespace {
 constexpr int kTogetherMilliseconds = 10000;
 
 void CloseWhenStopped(MediaControl& channel) {
-  if (channel.Mode() == ChannelMode::kStopped) channel.Command("Close");
+  if (channel.Mode() == ChannelMode::kStopped) channel.Command(ChannelCommand::kClose);
 }
 
 }  // namespace
@@ -37,7 +37,7 @@ void OverlapWatcher::AbortCompeting() {
   ChannelBank& channels = context_.screen.Channels;
   if (!channels.TwoSongsBegan(kTogetherMilliseconds)) return;
   context_.faults.Add("Competing Overlap Aborted", " Competing Overlap Aborted");
-  channels.MMControl2.Command("Close");
+  channels.MMControl2.Command(ChannelCommand::kClose);
 }
 
 bool OverlapWatcher::HeldOff() const {

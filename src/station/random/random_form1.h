@@ -18,7 +18,7 @@
 #include "station/onair/playback_switches.h"
 #include "station/onair/run_buttons.h"
 #include "station/onair/start_time_frame.h"
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

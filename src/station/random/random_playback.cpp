@@ -102,8 +102,8 @@ void RandomPlayback::Load() {
 
 void RandomPlayback::PrepareScreen() {
   RandomForm1& screen = context_.screen;
-  screen.Channels.MMControl1.Command("Close");
-  screen.Channels.MMControl2.Command("Close");
+  screen.Channels.MMControl1.Command(ChannelCommand::kClose);
+  screen.Channels.MMControl2.Command(ChannelCommand::kClose);
   screen.Run.HideBeforeRun();
   screen.Timer2.SetEnabled(true);
   screen.Switches.ReadFiles();  // before a run that the load itself may start: its first item is proof too

@@ -5,8 +5,8 @@
 
 #include <array>
 
-#include "station/platform/screen.h"
 #include "station/random/random_settings.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

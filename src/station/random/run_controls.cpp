@@ -96,7 +96,7 @@ void RunControls::BeginNext() {
   for (int number = 1; number <= 3; ++number) {
     MediaControl& channel = screen.Channels.channel(number);
     if (channel.Mode() != ChannelMode::kNotOpen) {
-      channel.Command("Close");
+      channel.Command(ChannelCommand::kClose);
     }
     if (number == 2) run.OverlapActive = 0;
   }

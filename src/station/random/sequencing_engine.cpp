@@ -165,7 +165,7 @@ void SequencingEngine::ShowItem(const WorkingItem& item) {
 void SequencingEngine::Play(int number, Started& started) {
   RandomForm1& screen = context_.screen;
   MediaControl& channel = screen.Channels.channel(number);
-  channel.Command("Play");
+  channel.Command(ChannelCommand::kPlay);
   started.start_time = HourMinuteSecondAmPm(context_.platform.clock.Now());
   context_.run.ActiveChannel = number;
   screen.CurrLabel[2].SetCaption(" Length:   " + ShortestSeconds(channel.Length()));
@@ -195,7 +195,7 @@ void SequencingEngine::OpenAndPlay(int number, const WorkingItem& item, Started&
       station_paths::AudioFile(item.Drive, item.RecordingId, extension.value_or(std::string()));
   if (OpenFile(channel, path) == 0) {
     ReportEmpty(channel);
-    channel.Command("Close");
+    channel.Command(ChannelCommand::kClose);
     PlayNextItem();
   }
   Play(number, started);

@@ -14,7 +14,7 @@ void SequencingEngine::PlayStopSetRow() {
   RunState& run = context_.run;
   MediaControl& channel = context_.screen.Channels.MMControl1;
   ++run.StopSetIndex;
-  channel.Command("Close");
+  channel.Command(ChannelCommand::kClose);
   const bool past_the_end = run.StopSetIndex > context_.stop_sets.count();
   if (past_the_end || context_.stop_sets.row(run.StopSetIndex).kind == EventKind::kLocalBreak) {
     run.StopSetActive = 0;  // the watcher finds both channels closed and goes back to the rotation
@@ -109,7 +109,7 @@ void SequencingEngine::PlayOnFirst(const std::string& path) {
   MediaControl& channel = context_.screen.Channels.MMControl1;
   if (OpenFile(channel, path) == 0) {
     ReportEmpty(channel);
-    channel.Command("Close");
+    channel.Command(ChannelCommand::kClose);
     PlayNextItem();
     return;
   }

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "station/library/recording_file.h"
-#include "station/platform/portioned_work.h"
-#include "station/platform/screen.h"
+#include "station/screen/portioned_work.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

@@ -114,11 +114,11 @@ void AudioImport::Fail(const Status& fault) {
 }
 
 std::int32_t AudioImport::LengthOf(const std::string& path) {
-  media_.Command("Close");
+  media_.Command(ChannelCommand::kClose);
   media_.SetFileName(path);
-  media_.Command("Open");
+  media_.Command(ChannelCommand::kOpen);
   const std::int32_t length = media_.Length();
-  media_.Command("Close");
+  media_.Command(ChannelCommand::kClose);
   return length;
 }
 

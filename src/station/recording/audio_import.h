@@ -17,7 +17,7 @@
 
 #include "station/platform/file_copy.h"
 #include "station/platform/media.h"
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

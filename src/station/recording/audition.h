@@ -2,7 +2,7 @@
 
 // The transport buttons of a screen's own channel, on which an operator listens to a recording.
 
-#include "station/platform/controls.h"
+#include "station/screen/controls.h"
 
 namespace quixair {
 

@@ -126,16 +126,15 @@ void AutoTime::Audition() {
 
 void AutoTime::Play() {
   MMControl1.Enable();
-  MMControl1.Command("Close");
+  MMControl1.Command(ChannelCommand::kClose);
   MMControl1.SetFileName(std::string(station_paths::kTimeFolder) + '\\' + name_);
-  MMControl1.Command("Open");
+  MMControl1.Command(ChannelCommand::kOpen);
   Text1.SetText("Length = " + ShortestSeconds(MMControl1.Length()) + "  [Press DONE to re-start]");
-  MMControl1.Command("Play");
+  MMControl1.Command(ChannelCommand::kPlay);
 }
 
 void AutoTime::StopPlaying() {
-  MMControl1.Command("Stop");
-  MMControl1.Command("Close");
+  MMControl1.Command(ChannelCommand::kClose);
 }
 
 void AutoTime::EnableChoices(bool enabled) {

@@ -6,8 +6,8 @@
 
 #include <string>
 
-#include "station/platform/screen.h"
 #include "station/recording/recorder_panel.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

@@ -7,9 +7,9 @@
 
 #include <string>
 
-#include "station/platform/screen.h"
 #include "station/recording/record_boxes.h"
 #include "station/recording/recorder_panel.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

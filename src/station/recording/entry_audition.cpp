@@ -61,7 +61,7 @@ void EntryScreen::Play(const std::string& id) {
   data.length().SetText(ShortestSeconds(MMControl1.Length()));
   Timer1.SetInterval(kPositionInterval);
   Timer1.SetEnabled(true);
-  MMControl1.Command("Play");
+  MMControl1.Command(ChannelCommand::kPlay);
 }
 
 void EntryScreen::ShowPosition() {
@@ -77,7 +77,7 @@ std::string EntryScreen::AudioPath(const std::string& drive, const std::string& 
 void EntryScreen::OpenAudio(const std::string& path) {
   OpeningAudio(true, path);
   MMControl1.SetFileName(path);
-  MMControl1.Command("Open");
+  MMControl1.Command(ChannelCommand::kOpen);
   OpeningAudio(false, path);
 }
 
@@ -87,7 +87,7 @@ void EntryScreen::MeasureAudio(const std::string& id) {
   if (MMControl1.Mode() != ChannelMode::kNotOpen) {
     data.length().SetText(ShortestSeconds(MMControl1.Length()));
   }
-  MMControl1.Command("Close");
+  MMControl1.Command(ChannelCommand::kClose);
 }
 
 void EntryScreen::DriveChosen() {

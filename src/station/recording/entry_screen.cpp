@@ -114,7 +114,7 @@ void EntryScreen::LeaveModes() {
   new_id_ = false;
   looked_up_.clear();
   Timer1.SetEnabled(false);
-  MMControl1.Command("Close");
+  MMControl1.Command(ChannelCommand::kClose);
 }
 
 void EntryScreen::EnableChoices(bool enabled) {

@@ -10,11 +10,11 @@
 
 #include <string>
 
-#include "station/platform/screen.h"
 #include "station/recording/audition.h"
 #include "station/recording/entry_kind.h"
 #include "station/recording/record_boxes.h"
 #include "station/recording/record_faults.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "station/console/folder_choice.h"
-#include "station/platform/screen.h"
 #include "station/recording/audio_import.h"
 #include "station/recording/audition.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

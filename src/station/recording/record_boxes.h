@@ -9,8 +9,8 @@
 #include <functional>
 #include <string>
 
-#include "station/platform/screen.h"
 #include "station/recording/record_layout.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

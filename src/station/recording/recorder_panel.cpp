@@ -71,7 +71,7 @@ void RecorderPanel::Prepare() {
   StopBtn.Disable();
   Timer1.SetEnabled(false);
   PlayPos.SetCaption({});
-  MMControl1.Command("Close");
+  MMControl1.Command(ChannelCommand::kClose);
   MMControl1.Disable();
   MMWaveRecorderX.SetFileName({});
   MMWaveRecorderX.LoadFormat();
@@ -82,7 +82,7 @@ void RecorderPanel::Prepare() {
 void RecorderPanel::Start() {
   Timer1.SetEnabled(false);
   PlayPos.SetCaption({});
-  MMControl1.Command("Close");
+  MMControl1.Command(ChannelCommand::kClose);
   if (on_start) on_start();
   EnableChoices(false);
   screen_.platform().capture.set_drive(UpperCased(path.front()));
@@ -115,10 +115,10 @@ void RecorderPanel::Stop() {
   MMWaveRecorderX.Stop();
   stopping_ = false;
   MMControl1.Enable();
-  MMControl1.Command("Close");
+  MMControl1.Command(ChannelCommand::kClose);
   Text6.SetText("Writing Data file to Disk");
   const bool written = !on_saved || on_saved(FixedDecimals(MMWaveRecorderX.RecordedLength() / 1000.0, 1));
-  MMControl1.Command("Close");
+  MMControl1.Command(ChannelCommand::kClose);
   EnableChoices(true);
   if (written) {
     Text6.SetText("File Saved: Click 'Exit' for New File, 'Start' to Re-Record, 'Audition' to Listen.");
@@ -132,7 +132,7 @@ bool RecorderPanel::EraseConfirmed(const std::string& name) {
       box_style::kOkCancel + box_style::kCritical, "Erase File?");
   if (answer != Answer::kOk) return false;
   Text6.SetText("Erasing File");
-  MMControl1.Command("Close");
+  MMControl1.Command(ChannelCommand::kClose);
   return true;
 }
 
@@ -153,7 +153,7 @@ void RecorderPanel::ShowProgress() {
 void RecorderPanel::Audition() {
   MMControl1.Enable();
   MMControl1.SetFileName(MMWaveRecorderX.file_name().empty() ? path : MMWaveRecorderX.file_name());
-  MMControl1.Command("Open");
+  MMControl1.Command(ChannelCommand::kOpen);
   Timer1.SetInterval(kPositionInterval);
   Timer1.SetEnabled(true);
 }

@@ -8,8 +8,8 @@
 #include <functional>
 #include <string>
 
-#include "station/platform/recorder_control.h"
-#include "station/platform/screen.h"
+#include "station/screen/recorder_control.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 #include "station/templates/template_choice.h"
 
 namespace quixair {

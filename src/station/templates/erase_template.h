@@ -3,7 +3,7 @@
 // ErasePickCustom and EraseSimSatCustom: one screen on the custom templates of either family. Daily templates
 // are not offered.
 
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

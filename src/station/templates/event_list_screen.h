@@ -11,8 +11,8 @@
 #include <string>
 #include <vector>
 
-#include "station/platform/portioned_work.h"
-#include "station/platform/screen.h"
+#include "station/screen/portioned_work.h"
+#include "station/screen/screen.h"
 #include "station/templates/editor_library.h"
 
 namespace quixair {

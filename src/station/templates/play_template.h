@@ -5,7 +5,7 @@
 
 #include <optional>
 
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 #include "station/templates/template_choice.h"
 
 namespace quixair {

@@ -7,7 +7,7 @@
 #include <functional>
 #include <string>
 
-#include "station/platform/controls.h"
+#include "station/screen/controls.h"
 
 namespace quixair {
 

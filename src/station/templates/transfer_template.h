@@ -8,7 +8,7 @@
 
 #include "station/console/folder_choice.h"
 #include "station/platform/run_time_error.h"
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 #include "station/templates/template_choice.h"
 
 namespace quixair {

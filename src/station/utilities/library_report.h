@@ -10,7 +10,7 @@
 
 #include "station/library/recording_file.h"
 #include "station/platform/files.h"
-#include "station/platform/grid.h"
+#include "station/screen/grid.h"
 #include "station/utilities/report_pages.h"
 
 namespace quixair {

@@ -4,9 +4,9 @@
 // cuts them to a range and prints a listing. It reads the library and never writes to it. Loading goes in
 // portions; meanwhile only Quit answers.
 
-#include "station/platform/grid.h"
-#include "station/platform/portioned_work.h"
-#include "station/platform/screen.h"
+#include "station/screen/grid.h"
+#include "station/screen/portioned_work.h"
+#include "station/screen/screen.h"
 #include "station/utilities/library_report.h"
 
 namespace quixair {

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "station/platform/controls.h"
 #include "station/platform/platform.h"
 #include "station/platform/printer.h"
+#include "station/screen/controls.h"
 
 namespace quixair {
 

@@ -7,8 +7,8 @@
 #include <functional>
 #include <vector>
 
-#include "station/platform/portioned_work.h"
-#include "station/platform/screen.h"
+#include "station/screen/portioned_work.h"
+#include "station/screen/screen.h"
 #include "station/templates/template_choice.h"
 #include "station/utilities/template_report.h"
 

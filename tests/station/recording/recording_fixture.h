@@ -5,7 +5,7 @@
 #include <gmock/gmock.h>
 
 #include "station/library/recording_file.h"
-#include "station/platform/recorder_control.h"
+#include "station/screen/recorder_control.h"
 #include "support/station_fixture.h"
 
 namespace quixair::testing {

@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "station/platform/grid.h"
+#include "station/screen/grid.h"
 #include "support/station_fixture.h"
 
 namespace quixair::testing {

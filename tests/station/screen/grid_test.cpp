@@ -1,4 +1,4 @@
-#include "station/platform/grid.h"
+#include "station/screen/grid.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 #include <utility>
 

@@ -3,7 +3,7 @@
 // Reading and writing one file of the host so that neither a full disk nor the end of the program in the
 // middle loses what was there. A file is overwritten where it lies and cut to its new length at the end: at
 // no moment is it empty, which for the restart record would mean a silent morning. What DiskFiles,
-// FileCopy and the sound library stand on.
+// HostFileCopy and the sound library stand on.
 
 #include <sys/types.h>
 

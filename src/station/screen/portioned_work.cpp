@@ -1,9 +1,9 @@
-#include "station/platform/portioned_work.h"
+#include "station/screen/portioned_work.h"
 
 #include <utility>
 
 #include "station/platform/clock.h"
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 namespace {

@@ -1,4 +1,4 @@
-#include "station/platform/system_clock.h"
+#include "station/host/system_clock.h"
 
 #include <ctime>
 

@@ -8,8 +8,8 @@
 #include <optional>
 #include <string>
 
-#include "station/platform/controls.h"
 #include "station/platform/recorder.h"
+#include "station/screen/controls.h"
 
 namespace quixair {
 

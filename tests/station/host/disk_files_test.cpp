@@ -1,4 +1,4 @@
-#include "station/platform/disk_files.h"
+#include "station/host/disk_files.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>

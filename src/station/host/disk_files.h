@@ -12,7 +12,7 @@
 #include <string>
 #include <unordered_map>
 
-#include "station/platform/drives.h"
+#include "station/host/drives.h"
 #include "station/platform/files.h"
 
 namespace quixair {

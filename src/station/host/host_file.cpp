@@ -1,4 +1,4 @@
-#include "station/platform/host_file.h"
+#include "station/host/host_file.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,10 +1,10 @@
-#include "station/platform/screen_registry.h"
+#include "station/screen/screen_registry.h"
 
 #include <algorithm>
 #include <stdexcept>
 
 #include "station/platform/event_gate.h"
-#include "station/platform/recorder_control.h"
+#include "station/screen/recorder_control.h"
 
 namespace quixair {
 

@@ -1,4 +1,4 @@
-#include "station/platform/controls.h"
+#include "station/screen/controls.h"
 
 #include <gtest/gtest.h>
 

@@ -7,7 +7,7 @@
 #include <chrono>
 #include <functional>
 
-#include "station/platform/controls.h"
+#include "station/screen/controls.h"
 
 namespace quixair {
 

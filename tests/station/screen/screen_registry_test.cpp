@@ -1,4 +1,4 @@
-#include "station/platform/screen_registry.h"
+#include "station/screen/screen_registry.h"
 
 #include <gtest/gtest.h>
 

@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "station/platform/platform.h"
-#include "station/platform/screen.h"
 #include "station/platform/screens.h"
 #include "station/platform/text.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 

@@ -1,12 +1,12 @@
-#include "station/platform/controls.h"
+#include "station/screen/controls.h"
 
 #include <algorithm>
 #include <utility>
 
 #include "station/platform/event_gate.h"
 #include "station/platform/files.h"
-#include "station/platform/screen.h"
 #include "station/platform/text.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 namespace {
@@ -391,18 +391,23 @@ MediaControl::MediaControl(ControlOwner& owner, std::string name, int number)
     : Control(owner, std::move(name), ControlKind::kMedia),
       player_(screen().platform().media.MakePlayer(number)) {}
 
-void MediaControl::Command(std::string_view command) {
-  command_ = command;
-  if (EqualsIgnoringCase(command, "Open")) {
-    player_->Open(file_name_, screen().platform().files.HostPath(file_name_));
-  } else if (EqualsIgnoringCase(command, "Play")) {
-    player_->Play();
-  } else if (EqualsIgnoringCase(command, "Pause")) {
-    player_->Pause();
-  } else if (EqualsIgnoringCase(command, "Prev")) {
-    player_->Rewind();
-  } else if (EqualsIgnoringCase(command, "Close")) {
-    player_->Close();
+void MediaControl::Command(ChannelCommand command) {
+  switch (command) {
+    case ChannelCommand::kOpen:
+      player_->Open(file_name_, screen().platform().files.HostPath(file_name_));
+      break;
+    case ChannelCommand::kPlay:
+      player_->Play();
+      break;
+    case ChannelCommand::kPause:
+      player_->Pause();
+      break;
+    case ChannelCommand::kPrev:
+      player_->Rewind();
+      break;
+    case ChannelCommand::kClose:
+      player_->Close();
+      break;
   }
   Changed(Aspect::kTransport);
 }

@@ -1,4 +1,4 @@
-#include "station/platform/drives.h"
+#include "station/host/drives.h"
 
 #include <cstdlib>
 #include <fstream>

@@ -1,4 +1,4 @@
-#include "station/platform/disk_files.h"
+#include "station/host/disk_files.h"
 
 #include <dirent.h>
 #include <sys/stat.h>
@@ -8,8 +8,8 @@
 #include <cerrno>
 #include <unordered_set>
 
-#include "station/platform/file_copy.h"
-#include "station/platform/host_file.h"
+#include "station/host/host_file.h"
+#include "station/host/host_file_copy.h"
 #include "station/platform/text.h"
 
 namespace quixair {
@@ -124,8 +124,9 @@ Result<std::unique_ptr<FileCopy>> DiskFiles::BeginCopy(std::string_view from, st
   if (place.ok() && ForgetMissingFolder(place.value())) place = Locate(to);
   if (!place.ok()) return place.error();
   if (AreSame(from, to)) return RunTimeError::kPermissionDenied;
-  return FileCopy::Begin(source->string(), place.value().folder, place.value().name,
-                         flushing_ == Flushing::kToDisk ? FileCopy::Pace::kBeside : FileCopy::Pace::kByStep);
+  return HostFileCopy::Begin(
+      source->string(), place.value().folder, place.value().name,
+      flushing_ == Flushing::kToDisk ? HostFileCopy::Pace::kBeside : HostFileCopy::Pace::kByStep);
 }
 
 Status DiskFiles::MakeFolder(std::string_view path) {

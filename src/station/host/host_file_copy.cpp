@@ -1,4 +1,4 @@
-#include "station/platform/file_copy.h"
+#include "station/host/host_file_copy.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -24,39 +24,39 @@ std::string GrowingName(const std::string& name) {
 
 }  // namespace
 
-Result<std::unique_ptr<FileCopy>> FileCopy::Begin(const std::string& source, const std::string& folder,
-                                                  const std::string& name, Pace pace) {
+Result<std::unique_ptr<FileCopy>> HostFileCopy::Begin(const std::string& source, const std::string& folder,
+                                                      const std::string& name, Pace pace) {
   Descriptor from(::open(source.c_str(), O_RDONLY | O_CLOEXEC));
   if (!from.open()) return host_file::LastError();
   const std::string growing = folder + '/' + GrowingName(name);
   Descriptor to(::open(growing.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
   if (!to.open()) return errno == ENOENT ? RunTimeError::kPathNotFound : host_file::LastError();
   auto work = std::make_shared<Work>(std::move(from), std::move(to));
-  std::unique_ptr<FileCopy> copy(new FileCopy(work, growing, folder + '/' + name, pace));
+  std::unique_ptr<HostFileCopy> copy(new HostFileCopy(work, growing, folder + '/' + name, pace));
   const Status reserved = host_file::Reserve(work->target, 0, copy->size_);
   if (!reserved.ok()) return reserved.error();
   if (pace == Pace::kBeside) copy->beside_ = Beside([work] { return MoveAll(*work); });
-  return copy;
+  return std::unique_ptr<FileCopy>(std::move(copy));
 }
 
-FileCopy::FileCopy(std::shared_ptr<Work> work, std::string growing, std::string place, Pace pace)
+HostFileCopy::HostFileCopy(std::shared_ptr<Work> work, std::string growing, std::string place, Pace pace)
     : work_(std::move(work)),
       growing_(std::move(growing)),
       place_(std::move(place)),
       pace_(pace),
       size_(host_file::SizeOf(work_->source)) {}
 
-FileCopy::~FileCopy() {
+HostFileCopy::~HostFileCopy() {
   work_->given_up = true;
   if (stage_ == Stage::kMoving) ::unlink(growing_.c_str());
 }
 
-double FileCopy::progress() const {
+double HostFileCopy::progress() const {
   if (done()) return 1;
   return size_ == 0 ? 0 : std::min(1.0, static_cast<double>(work_->moved) / static_cast<double>(size_));
 }
 
-Status FileCopy::Step() {
+Status HostFileCopy::Step() {
   if (stage_ == Stage::kMoving && pace_ == Pace::kByStep) return MoveByStep();
   if (!beside_.valid() || !IsThrough(beside_)) return {};
   const Status status = beside_.get();
@@ -65,7 +65,7 @@ Status FileCopy::Step() {
   return {};
 }
 
-Result<bool> FileCopy::MovePiece(Work& work) {
+Result<bool> HostFileCopy::MovePiece(Work& work) {
   std::vector<char> piece(kPiece);
   const off_t place = work.moved;
   const ssize_t got = ::pread(work.source.get(), piece.data(), piece.size(), place);
@@ -78,7 +78,7 @@ Result<bool> FileCopy::MovePiece(Work& work) {
   return false;
 }
 
-Status FileCopy::MoveAll(Work& work) {
+Status HostFileCopy::MoveAll(Work& work) {
   for (bool at_end = false; !at_end && !work.given_up;) {
     const Result<bool> moved = MovePiece(work);
     if (!moved.ok()) return moved.status();
@@ -90,14 +90,14 @@ Status FileCopy::MoveAll(Work& work) {
   return {};
 }
 
-Status FileCopy::MoveByStep() {
+Status HostFileCopy::MoveByStep() {
   const Result<bool> moved = MovePiece(*work_);
   if (!moved.ok()) return GiveUp(moved.status());
   if (!moved.value()) return {};
   return work_->target.Close() == 0 ? TakePlace() : GiveUp(host_file::LastError());
 }
 
-Status FileCopy::TakePlace() {
+Status HostFileCopy::TakePlace() {
   if (::rename(growing_.c_str(), place_.c_str()) != 0) return GiveUp(host_file::LastError());
   stage_ = pace_ == Pace::kBeside ? Stage::kNaming : Stage::kDone;
   if (pace_ == Pace::kBeside) {
@@ -109,7 +109,7 @@ Status FileCopy::TakePlace() {
   return {};
 }
 
-Status FileCopy::GiveUp(const Status& fault) {
+Status HostFileCopy::GiveUp(const Status& fault) {
   stage_ = Stage::kGivenUp;
   ::unlink(growing_.c_str());
   return fault;

@@ -1,4 +1,4 @@
-#include "station/platform/file_copy.h"
+#include "station/host/host_file_copy.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -6,7 +6,7 @@
 #include <csignal>
 #include <thread>
 
-#include "station/platform/disk_files.h"
+#include "station/host/disk_files.h"
 #include "support/station_fixture.h"
 
 namespace quixair::testing {

@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
-#include "station/platform/controls.h"
 #include "station/platform/platform.h"
 #include "station/platform/screens.h"
+#include "station/screen/controls.h"
 
 namespace quixair {
 

@@ -1,9 +1,9 @@
-#include "station/platform/recorder_control.h"
+#include "station/screen/recorder_control.h"
 
 #include "station/platform/dialogs.h"
 #include "station/platform/event_gate.h"
 #include "station/platform/files.h"
-#include "station/platform/screen.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 namespace {

@@ -379,9 +379,8 @@ class MediaControl : public Control {
 
   void SetFileName(std::string path) { file_name_ = std::move(path); }
   const std::string& file_name() const { return file_name_; }
-  /// "Open", "Play", "Pause", "Prev" or "Close", in any case. A failed "Open" is known by Length 0.
-  void Command(std::string_view command);
-  const std::string& last_command() const { return command_; }
+  /// A failed kOpen is known by Length 0.
+  void Command(ChannelCommand command);
 
   ChannelMode Mode() const { return player_->Mode(); }
   std::int32_t Length() const { return player_->Length(); }
@@ -401,7 +400,6 @@ class MediaControl : public Control {
  private:
   std::unique_ptr<MediaPlayer> player_;
   std::string file_name_;
-  std::string command_;
   bool notify_ = false;
 };
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "station/platform/controls.h"
+#include "station/screen/controls.h"
 
 namespace quixair {
 
