@@ -42,7 +42,7 @@ void SimulatedStation::Program::ScreenClosed(Screen& screen) {
 SimulatedStation::SimulatedStation(Drives drives, const CivilTime& civil, LengthProbe probe,
                                    std::optional<std::uint64_t> seed)
     : time_(civil),
-      files_(std::move(drives), DiskFiles::Flushing::kNone),
+      disk_(std::move(drives), DiskFiles::Flushing::kNone),
       media_(time_, std::move(probe)),
       capture_(time_),
       random_(seed ? EngineRandom(*seed) : EngineRandom()) {

@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 
+#include "simulation/faulty_files.h"
 #include "simulation/scripted_dialogs.h"
 #include "simulation/scripted_printer.h"
 #include "simulation/simulated_capture.h"
@@ -45,7 +46,8 @@ class SimulatedStation {
   Screen* FindScreen(std::string_view name);
 
   VirtualTime& time() { return time_; }
-  DiskFiles& files() { return files_; }
+  FaultyFiles& files() { return files_; }
+  const Drives& drives() const { return disk_.drives(); }
   SimulatedMedia& media() { return media_; }
   SimulatedCapture& capture() { return capture_; }
   ScriptedDialogs& dialogs() { return dialogs_; }
@@ -73,7 +75,8 @@ class SimulatedStation {
   };
 
   VirtualTime time_;
-  DiskFiles files_;
+  DiskFiles disk_;
+  FaultyFiles files_{disk_};
   SimulatedMedia media_;
   SimulatedCapture capture_;
   ScriptedDialogs dialogs_;

@@ -200,7 +200,7 @@ TEST_F(Scripts, SameSeed_GivesTheSameDay) {
       "start\nmenu RandomPlaybackMode\nclick RandomForm1.Start\nadvance 10m\nclose Console\n";
   const auto air = [&] {
     simulation::SimulatedStation station(
-        station_.files().drives(), script::MomentOf("2026-11-22 20:00:00"),
+        station_.drives(), script::MomentOf("2026-11-22 20:00:00"),
         [](const std::filesystem::path&) { return 5000; }, 7);
     std::istringstream script(day);
     std::ostringstream out;
