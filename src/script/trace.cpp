@@ -40,8 +40,14 @@ const char* NameOf(WindowState window) {
 
 }  // namespace
 
+std::string InWords(const simulation::ShownBox& box) {
+  const std::string said = Quoted(box.title) + ' ' + Quoted(box.text) + " -> ";
+  return box.input ? "input " + said + Quoted(box.answer)
+                   : "box " + std::to_string(box.style) + ' ' + said + box.answer;
+}
+
 Trace::Trace(simulation::SimulatedStation& station, std::ostream& out) : station_(station), out_(out) {
-  station.dialogs().on_box = [this](const simulation::ShownBox& box) { Box(box); };
+  station.dialogs().on_box = [this](const simulation::ShownBox& box) { Event(InWords(box)); };
   station.media().on_event = [this](const simulation::ChannelEvent& event) { Channel(event); };
   station.programs().on_run = [this](const std::string& command_line, WindowState window) {
     Event("run " + Quoted(command_line) + ' ' + NameOf(window));
@@ -60,15 +66,6 @@ Trace::Trace(simulation::SimulatedStation& station, std::ostream& out) : station
 
 void Trace::Event(const std::string& text) {
   if (!quiet_) out_ << Stamp(station_.time().Now()) << ' ' << text << '\n';
-}
-
-void Trace::Box(const simulation::ShownBox& box) {
-  if (box.input) {
-    Event("input " + Quoted(box.title) + ' ' + Quoted(box.text) + " -> " + Quoted(box.answer));
-  } else {
-    Event("box " + std::to_string(box.style) + ' ' + Quoted(box.title) + ' ' + Quoted(box.text) + " -> " +
-          box.answer);
-  }
 }
 
 void Trace::Print(const simulation::PrintJob& job) {

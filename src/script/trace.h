@@ -9,6 +9,9 @@
 
 namespace quixair::script {
 
+/// A box and its answer in one line.
+std::string InWords(const simulation::ShownBox& box);
+
 class Trace {
  public:
   /// Connects itself to the station; both outlive the run.
@@ -17,7 +20,6 @@ class Trace {
 
  private:
   void Event(const std::string& text);
-  void Box(const simulation::ShownBox& box);
   void Print(const simulation::PrintJob& job);
   void Channel(const simulation::ChannelEvent& event);
 

@@ -1,9 +1,6 @@
 #include "support/station_fixture.h"
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 
@@ -16,10 +13,6 @@
 
 namespace quixair::testing {
 namespace {
-
-std::int32_t StandInLength(const std::filesystem::path& path) {
-  return WholeValue(ReadHostFile(path));
-}
 
 Drives DrivesIn(const std::filesystem::path& folder) {
   for (const char* name : {"QXAIR", "QXDATA", "QXTEMPLT", "QXTIME", "QXWAVE"}) {
@@ -38,15 +31,8 @@ std::string Numbered(std::string_view prefix, int number, std::size_t width) {
 
 }  // namespace
 
-TemporaryFolder::TemporaryFolder() {
-  std::string pattern = (std::filesystem::temp_directory_path() / "quixair-XXXXXX").string();
-  if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  path_ = pattern;
-}
-
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
+std::int32_t StandInLength(const std::filesystem::path& path) {
+  return WholeValue(ReadHostFile(path));
 }
 
 std::string ReadHostFile(const std::filesystem::path& path) {

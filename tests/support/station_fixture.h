@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "simulation/simulated_station.h"
+#include "simulation/temporary_folder.h"
 #include "station/random/random_settings.h"
 #include "station/screen/controls.h"
 #include "station/screen/screen.h"
@@ -26,19 +27,10 @@ namespace quixair::testing {
 
 using namespace std::chrono_literals;
 
-/// A folder of its own below the system's temporary one, removed at the end.
-class TemporaryFolder {
- public:
-  TemporaryFolder();
-  ~TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  const std::filesystem::path& path() const { return path_; }
+using simulation::TemporaryFolder;
 
- private:
-  std::filesystem::path path_;
-};
-
+/// What a stand-in's text says; 0 for anything else.
+std::int32_t StandInLength(const std::filesystem::path& path);
 std::string ReadHostFile(const std::filesystem::path& path);
 void WriteHostFile(const std::filesystem::path& path, std::string_view bytes);
 
