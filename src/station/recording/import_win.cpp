@@ -33,8 +33,18 @@ ImportWin::ImportWin(const Platform& platform) : ImportScreen(platform, "ImportW
   };
 }
 
+void ImportWin::PrepareAgain(const ScreenOpening&) {
+  if (IsWorking()) {
+    asked_again_ = true;
+    return;
+  }
+  SaveFolder();
+  StartOver();
+}
+
 void ImportWin::StartOver() {
   Work(false);
+  asked_again_ = false;
   id_.clear();
   folder_.clear();
   kind_.reset();
@@ -104,6 +114,11 @@ void ImportWin::Examined(bool playable) {
   Progress.SetCaption("");
   if (!playable) TellUnplayable(import_.job().name);
   if (playable && MayOverwrite(import_.job())) return import_.Copy();
+  BackToSource();
+}
+
+void ImportWin::BackToSource() {
+  if (asked_again_) return StartOver();
   Work(false);
   ReadyForSource();
 }
@@ -124,7 +139,7 @@ void ImportWin::SaveFolder() {
 }
 
 void ImportWin::GoBack() {
-  if (!kind_) return StartOver();
+  if (!kind_ || asked_again_) return StartOver();
   OpenEntryScreen();
   Unload();
 }

@@ -12,6 +12,8 @@ class ImportWin : public ImportScreen {
  public:
   explicit ImportWin(const Platform& platform);
   void Load() override { StartOver(); }
+  /// Another data file was sent here while this stood open: it is taken, after the import that runs.
+  void PrepareAgain(const ScreenOpening& opening) override;
 
   Button Command1{*this, "Command1", "&Import Now"};
   Button Command2{*this, "Command2", "&Quit"};
@@ -31,6 +33,8 @@ class ImportWin : public ImportScreen {
   void Take(const std::string& id);
   void ImportNow();
   void ReadyForSource();
+  /// No import came of the work.
+  void BackToSource();
   void SaveFolder();
   /// To the entry screen that asked, or to the start of this one.
   void GoBack();
@@ -42,6 +46,7 @@ class ImportWin : public ImportScreen {
   std::string drive_;
   std::string folder_;                 // of the source, once there is a choice to be kept
   std::optional<RecordingKind> kind_;  // of the entry screen that asked
+  bool asked_again_ = false;           // during the import that runs
 };
 
 }  // namespace quixair

@@ -226,6 +226,53 @@ TEST_F(ImportWinTest, EntryScreensRequest_IsTakenAndLedBackTo) {
   EXPECT_EQ(Shown(kWin, "Text1"), kStart) << "the menu's way knows of no request";
 }
 
+TEST_F(ImportWinTest, RequestToAnOpenScreen_IsTakenAtOnceOrBehindTheImportThatRuns) {
+  for (const char* id : {"M0001", "M0002"}) AddSong(id, 30000);
+  PutFile("NEW/LONG.WAV", "3000000" + std::string(20'000'000, ' '));
+  PutFile("QXAIR/IMPATH.DTA", "\"C:\\NEW\"\r\n");
+  const auto ask_for = [this](const char* id, RecordingKind kind) {
+    station_.Do([this, id, kind] {
+      SkipAndGoOn(WriteImportRequest(station_.platform().files, {id, "C", kind}));
+      station_.platform().screens.Open(kWin);
+    });
+  };
+  enum class Work { kNone, kInTheQuestion, kCopying };
+  const struct {
+    const char* means;
+    bool from_entry;
+    Work work;
+  } cases[] = {{"chosen from the menu", false, Work::kNone},
+               {"asked for by an entry screen", true, Work::kNone},
+               {"before a question that is answered Cancel", true, Work::kInTheQuestion},
+               {"while the menu's choice is copied", false, Work::kCopying},
+               {"while an entry screen's is copied", true, Work::kCopying}};
+  for (const auto& [means, from_entry, work] : cases) {
+    SCOPED_TRACE(means);
+    OpenFor("M0001.DAT");
+    if (from_entry) ask_for("M0001", RecordingKind::kSpot);
+    const bool copies = work == Work::kCopying;
+    if (work == Work::kInTheQuestion) {
+      station_.dialogs().on_box = [&](const auto&) { ask_for("M0002", RecordingKind::kMusic); };
+    }
+    if (work != Work::kNone) {
+      QueueAnswer(copies ? "OK" : "Cancel");
+      if (copies) QueueAnswer("OK");
+      Import("LONG.WAV");
+      Advance(20ms);
+      station_.dialogs().on_box = nullptr;
+    }
+    if (work != Work::kInTheQuestion) ask_for("M0002", RecordingKind::kMusic);
+    Advance(1min);
+    ASSERT_TRUE(IsOpen(kWin));
+    EXPECT_EQ(Shown(kWin, "Label5"), "File will be imported to M0002.DAT on Drive C...");
+    EXPECT_EQ(Field("M0001", 1), copies ? "3000.0" : "30") << "the import that ran is whole";
+    EXPECT_FALSE(IsOpen("RecordSpot"));
+    Click(kWin, "Command2");
+    EXPECT_TRUE(IsOpen("RecordASong")) << "back to the screen that asked last";
+    AddSong("M0001", 30000);
+  }
+}
+
 TEST_F(ImportWinTest, LastFolder_IsKeptAndShownOnceADataFileIsChosen) {
   AddSong("M0100", 30000);
   PutSource("HIT.WAV", 200000);
