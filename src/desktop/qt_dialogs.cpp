@@ -59,12 +59,9 @@ Answer AnswerOf(int button, int style) {
                                                                                          : Answer::kCancel;
 }
 
-/// What is offered is the beginning of the answer: it is typed on, not over.
-void GoBehindText(const QInputDialog& box) {
-  auto* line = box.findChild<QLineEdit*>();
-  if (line == nullptr) return;
-  line->deselect();
-  line->end(false);
+void GoBehindText(QLineEdit& line) {
+  line.deselect();
+  line.end(false);
 }
 
 QComboBox* AddChoice(QFormLayout& form, const char* caption, const std::vector<int>& values, int chosen,
@@ -84,12 +81,14 @@ Answer QtDialogs::MessageBox(std::string_view text, int style, std::string_view 
   return AnswerOf(Run(box), style);
 }
 
-std::string QtDialogs::InputBox(std::string_view prompt, std::string_view title, std::string_view initial) {
+std::string QtDialogs::InputBox(std::string_view prompt, std::string_view title, const InputOffer& offer) {
   QInputDialog box(Over());
   box.setWindowTitle(ToQt(title));
   box.setLabelText(ToQt(prompt));
-  box.setTextValue(ToQt(initial));
-  QTimer::singleShot(0, &box, [&box] { GoBehindText(box); });
+  box.setTextValue(ToQt(offer.text));
+  auto* line = box.findChild<QLineEdit*>();
+  if (offer.limit > 0) line->setMaxLength(offer.limit);
+  if (offer.use == InputOffer::Use::kBeginning) QTimer::singleShot(0, line, [line] { GoBehindText(*line); });
   return Run(box) == QDialog::Accepted ? FromQt(box.textValue()) : std::string();
 }
 

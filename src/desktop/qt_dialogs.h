@@ -26,7 +26,7 @@ class QtDialogs : public Dialogs {
   void set_parent(QWidget* parent) { parent_ = parent; }
 
   Answer MessageBox(std::string_view text, int style, std::string_view title) override;
-  std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
+  std::string InputBox(std::string_view prompt, std::string_view title, const InputOffer& offer) override;
   std::optional<RecordingFormat> FormatBox(const RecordingFormat& initial) override;
 
   /// Runs a window of the desktop's own as these boxes run.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "station/platform/text.h"
 
@@ -38,8 +39,12 @@ std::string_view NameOf(Answer answer) {
 }
 
 Answer ScriptedDialogs::MessageBox(std::string_view text, int style, std::string_view title) {
-  ShownBox box{
-      .input = false, .style = style, .title = std::string(title), .text = std::string(text), .answer = {}};
+  ShownBox box{.input = false,
+               .style = style,
+               .title = std::string(title),
+               .text = std::string(text),
+               .offered = {},
+               .answer = {}};
   const std::vector<Answer> offered = Offered(style);
   Answer answer = offered.back();
   std::optional<std::string> wanted;
@@ -59,14 +64,26 @@ Answer ScriptedDialogs::MessageBox(std::string_view text, int style, std::string
 }
 
 std::string ScriptedDialogs::InputBox(std::string_view prompt, std::string_view title,
-                                      std::string_view /*initial*/) {
-  return AnswerTyped(
-      {.input = true, .style = 0, .title = std::string(title), .text = std::string(prompt), .answer = {}});
+                                      const InputOffer& offer) {
+  std::string offered(offer.text);
+  if (offer.use == InputOffer::Use::kBeginning) offered += '|';
+  std::string answer = AnswerTyped({.input = true,
+                                    .style = 0,
+                                    .title = std::string(title),
+                                    .text = std::string(prompt),
+                                    .offered = std::move(offered),
+                                    .answer = {}});
+  if (offer.limit > 0) answer.resize(std::min(answer.size(), static_cast<std::size_t>(offer.limit)));
+  return answer;
 }
 
 std::optional<RecordingFormat> ScriptedDialogs::FormatBox(const RecordingFormat& initial) {
-  return ParseRecordingFormat(AnswerTyped(
-      {.input = true, .style = 0, .title = "Recording format", .text = InWords(initial), .answer = {}}));
+  return ParseRecordingFormat(AnswerTyped({.input = true,
+                                           .style = 0,
+                                           .title = "Recording format",
+                                           .text = InWords(initial),
+                                           .offered = {},
+                                           .answer = {}}));
 }
 
 std::string ScriptedDialogs::AnswerTyped(ShownBox box) {

@@ -18,13 +18,14 @@ struct ShownBox {
   int style = 0;
   std::string title;
   std::string text;
-  std::string answer;  // "OK", "Cancel", "Yes", "No", or the typed text
+  std::string offered;  // by an input box; with a bar behind it when it is typed on
+  std::string answer;   // "OK", "Cancel", "Yes", "No", or the typed text
 };
 
 class ScriptedDialogs : public Dialogs {
  public:
   Answer MessageBox(std::string_view text, int style, std::string_view title) override;
-  std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
+  std::string InputBox(std::string_view prompt, std::string_view title, const InputOffer& offer) override;
   /// Answered with "48000 16 2".
   std::optional<RecordingFormat> FormatBox(const RecordingFormat& initial) override;
 

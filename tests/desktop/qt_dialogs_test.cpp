@@ -68,22 +68,30 @@ TEST_F(QtDialogsTest, ClosingABoxWithOneButton_AnswersIt) {
   EXPECT_EQ(dialogs_.MessageBox("Text", 0, "T"), Answer::kOk);
 }
 
-TEST_F(QtDialogsTest, InputBox_GivesWhatWasTyped_OrNothing) {
-  WhenOpen<QInputDialog>([](QInputDialog& box) {
-    EXPECT_EQ(box.textValue(), QStringLiteral("first"));
-    box.setTextValue(QStringLiteral("Été"));
-    box.accept();
-  });
-  EXPECT_EQ(dialogs_.InputBox("Prompt", "T", "first"), "\xC9t\xE9");
-  WhenOpen<QInputDialog>([](QInputDialog& box) {
-    QTimer::singleShot(0, &box, [&box] {
-      QTest::keyClicks(box.findChild<QLineEdit*>(), QStringLiteral("1"));
-      box.accept();
+TEST_F(QtDialogsTest, InputBox_TakesWhatIsTypedOverAWholeAnswerAndBehindABeginning) {
+  using Use = InputOffer::Use;
+  const struct {
+    InputOffer offer;
+    const char *typed, *answer;
+  } cases[] = {{{.text = "2026", .use = Use::kWhole, .limit = 4}, "1988", "1988"},
+               {{.text = "2026", .use = Use::kWhole, .limit = 4}, "", "2026"},
+               {{.text = "", .use = Use::kWhole, .limit = 4}, "20265", "2026"},
+               {{.text = "caf\xE9", .use = Use::kWhole, .limit = 0}, "", "caf\xE9"},
+               {{.text = "S", .use = Use::kBeginning, .limit = 0}, "1", "S1"}};
+  for (const auto& [offer, typed, answer] : cases) {
+    WhenOpen<QInputDialog>([typed = typed](QInputDialog& box) {
+      QTimer::singleShot(0, &box, [&box, typed] {
+        QTest::keyClicks(box.findChild<QLineEdit*>(), QString::fromLatin1(typed));
+        box.accept();
+      });
     });
+    EXPECT_EQ(dialogs_.InputBox("Prompt", "T", offer), answer) << offer.text << " and " << typed;
+  }
+  WhenOpen<QInputDialog>([](QInputDialog& box) {
+    box.setTextValue(QStringLiteral("Été"));
+    box.reject();
   });
-  EXPECT_EQ(dialogs_.InputBox("Prompt", "T", "S"), "S1") << "typed on, not over";
-  WhenOpen<QInputDialog>([](QInputDialog& box) { box.reject(); });
-  EXPECT_EQ(dialogs_.InputBox("Prompt", "T", "first"), "");
+  EXPECT_EQ(dialogs_.InputBox("Prompt", "T", {}), "") << "cancelled";
 }
 
 TEST_F(QtDialogsTest, ProgramEndsWhileABoxIsOpen_TheEventIsLeft) {

@@ -28,13 +28,22 @@ inline constexpr int kInformation = 64;
 inline constexpr int kIconMask = 112;
 }  // namespace box_style
 
+/// What an input box holds when it opens.
+struct InputOffer {
+  enum class Use { kWhole, kBeginning };
+  std::string_view text;
+  /// A whole answer is selected, so that what is typed replaces it; a beginning is typed on.
+  Use use = Use::kWhole;
+  int limit = 0;  // of what can be typed; 0 is none
+};
+
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
   /// Lines of `text` are divided by line feeds.
   virtual Answer MessageBox(std::string_view text, int style, std::string_view title) = 0;
   /// The text that was typed; empty when the operator cancelled.
-  virtual std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) = 0;
+  virtual std::string InputBox(std::string_view prompt, std::string_view title, const InputOffer& offer) = 0;
   /// The format that the operator chose; none when the choice was cancelled.
   virtual std::optional<RecordingFormat> FormatBox(const RecordingFormat& initial) = 0;
 };

@@ -31,7 +31,7 @@ void EntryScreen::Audition() {
   const std::string id = platform_.dialogs.InputBox(
       "Enter ID, then 'OK', or 'Cancel' to choose from list..\n"
       "[Make sure you include 'S' 'M' or 'L' as the first digit.]",
-      "Audition Recording", layout_.Letter());
+      "Audition Recording", {.text = layout_.Letter(), .use = InputOffer::Use::kBeginning});
   if (id.empty()) {
     File1.Enable();
     File1.SetFocus();

@@ -156,7 +156,7 @@ void EntryScreen::EditData() {
   for (;;) {
     const std::string id = platform_.dialogs.InputBox(
         std::string("Enter ID, then 'OK', or 'Cancel' to choose from list..\n") + kind_.editable, "Edit Data",
-        layout_.Letter());
+        {.text = layout_.Letter(), .use = InputOffer::Use::kBeginning});
     if (id.empty()) {
       File1.Enable();
       File1.SetFocus();

@@ -200,8 +200,8 @@ void ImportWinAuto::AskForFields(const std::string& id, const std::string& name)
       {Text4, "Edit the FROM YEAR if necessary [4 char. max.], then press OK or Enter"},
   };
   for (const auto& [field, prompt] : questions) {
-    field.SetText(
-        platform_.dialogs.InputBox(prompt, "About to Create " + id + " From " + name, field.text()));
+    const InputOffer offer{.text = field.text(), .use = InputOffer::Use::kWhole, .limit = field.max_length()};
+    field.SetText(platform_.dialogs.InputBox(prompt, "About to Create " + id + " From " + name, offer));
   }
 }
 

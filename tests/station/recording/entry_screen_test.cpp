@@ -281,6 +281,7 @@ TEST_F(EntryScreens, Audition_PlaysAndTellsThePosition) {
   OpenEntry(kSpot);
   QueueAnswer("S42");
   Click(kSpot, "Command2");
+  EXPECT_EQ(boxes().back().offered, "S|") << "the beginning of an id";
   EXPECT_EQ(Shown(kSpot, "Text1"), "C:\\QXWAVE\\S42.wav");
   EXPECT_FALSE(Enabled(kSpot, "Text3"));
   Advance(1050ms);
@@ -329,6 +330,7 @@ TEST_F(EntryScreens, EditData_SavesAndStartsOver) {
   QueueAnswer("L5");
   Click(kLiner, "Command4");
   EXPECT_THAT(boxes().back().text, HasSubstr("[Only Liners are Editable in this mode - 'L' "));
+  EXPECT_EQ(boxes().back().offered, "L|");
   EXPECT_EQ(Find<Button>(kLiner, "Command9").caption(), "&Save");
   Fill(kLiner, "Text3", "Renamed");
   Click(kLiner, "Command9");

@@ -112,6 +112,9 @@ TEST_F(ImportWinAutoTest, Asking_TakesTheAnswersAndTellsTheLength) {
   ASSERT_EQ(boxes().size(), 5U);
   EXPECT_EQ(boxes()[0].title, "About to Create MThe1 From The Lanterns - Paper Moon over the Bay.mp3");
   EXPECT_EQ(boxes()[0].text, "Edit the ARTIST if necessary [20 char. max.], then press OK or Enter");
+  EXPECT_EQ(boxes()[0].offered, "The Lanterns - Paper");
+  EXPECT_EQ(boxes()[1].offered, " Moon over the Bay.m");
+  EXPECT_EQ(boxes()[2].offered, "2026");
   EXPECT_EQ(boxes()[3].title, "About to Create MThe1.mp3 From The Lanterns - Paper Moon over the Bay.mp3");
   EXPECT_EQ(boxes()[4].title, "Import Successful");
   EXPECT_EQ(boxes()[4].text, "New File Length is: 201.3 Seconds");
