@@ -44,7 +44,7 @@ void EntryScreen::Audition() {
 void EntryScreen::Play(const std::string& id) {
   Result<RecordValues> read = ReadRecordFields(platform_.files, id, layout_.lines.size());
   if (!read.ok()) {
-    TellFault(read.status(), id, AbnormalFault::kEndsProgram);
+    TellNotRead(read.status(), id, AbnormalFault::kEndsProgram);
     if (read.error() == RunTimeError::kFileNotFound) Load();
     return;
   }

@@ -216,7 +216,7 @@ void EntryScreen::TakeFromList() {
 
 void EntryScreen::Take(const std::string& id) {
   if (ShowRecording(id) != RunTimeError::kFileNotFound) return;
-  TellFault(RunTimeError::kFileNotFound, id, AbnormalFault::kReturns);  // it has gone since it was listed
+  TellNotRead(RunTimeError::kFileNotFound, id, AbnormalFault::kReturns);  // it has gone since it was listed
   Load();
 }
 
@@ -244,7 +244,7 @@ RunTimeError EntryScreen::ShowRecording(const std::string& id) {
   Result<RecordValues> read = ReadRecordFields(platform_.files, id, layout_.lines.size());
   if (read.error() == RunTimeError::kFileNotFound) return read.error();
   if (!read.ok()) {
-    TellFault(read.status(), id, AbnormalFault::kReturns);
+    TellNotRead(read.status(), id, AbnormalFault::kReturns);
     return read.error();
   }
   RecordValues values = std::move(read).value();

@@ -103,8 +103,11 @@ class EntryScreen : public Screen {
   RecordValues Gathered() const;
   Status Write(RecordValues& values);
   void GoToCapture(RecordValues& values);
-  /// Tells it and leaves the mode.
-  void TellFault(const Status& fault, const std::string& missing, AbnormalFault abnormal);
+  void EnableFields(bool enabled);
+  /// The mode is over, and Restart the way on.
+  void TellNotRead(const Status& fault, const std::string& missing, AbnormalFault abnormal);
+  /// The mode goes on with all that was typed, so that it can be tried again.
+  void TellNotWritten(const Status& fault, const std::string& id);
 
   const EntryKind& kind_;
   const RecordLayout& layout_;

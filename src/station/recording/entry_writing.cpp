@@ -7,12 +7,18 @@
 #include "station/recording/entry_screen.h"
 
 namespace quixair {
+namespace {
+
+constexpr const char* kAnswered = "1";  // the number of the box's button: wanted, the engineer knows it so
+
+}  // namespace
 
 void EntryScreen::RecordNow() {
   if (mode_ == Mode::kAudition) {
     Load();
     return;
   }
+  if (data.id().enabled() && data.id().text().empty()) return data.id().SetFocus();  // told when it was left
   const bool id_not_left = data.id().enabled() && looked_up_ != data.id().text();
   if (id_not_left) {  // pressed by its key, the id still in focus
     IdLeft();
@@ -22,17 +28,14 @@ void EntryScreen::RecordNow() {
     Drive1.SetFocus();
     return;
   }
-  data.id().Disable();
-  data.EnableData(false);
-  EnableExtras(false);
-  Drive1.Disable();
+  EnableFields(false);
   RecordValues values = Gathered();
   const std::string id = ValueOf(values, layout_, RecordSlot::kId);
   Text1.SetText("Writing to Disk...");
   Repaint();
   const Status written = Write(values);
   if (!written.ok()) {
-    TellFault(written, id, AbnormalFault::kEndsProgram);
+    TellNotWritten(written, id);
   } else if (mode_ == Mode::kImport) {
     GoToImport(id);
   } else if (mode_ == Mode::kEdit) {
@@ -64,7 +67,7 @@ Status EntryScreen::Write(RecordValues& values) {
 void EntryScreen::GoToCapture(RecordValues& values) {
   const std::string id = ValueOf(values, layout_, RecordSlot::kId);
   if (const Status written = WriteLastRecording(platform_.files, id); !written.ok()) {
-    TellFault(written, id, AbnormalFault::kEndsProgram);
+    TellNotWritten(written, id);
     return;
   }
   DeleteOldAudio(Drive(), id);
@@ -78,7 +81,7 @@ void EntryScreen::GoToImport(const std::string& id) {
   const Status written =
       WriteImportRequest(platform_.files, {.RecordingId = id, .Drive = Drive(), .kind = kind_.kind});
   if (!written.ok()) {
-    TellFault(written, id, AbnormalFault::kEndsProgram);
+    TellNotWritten(written, id);
     return;
   }
   LeaveModes();
@@ -86,10 +89,27 @@ void EntryScreen::GoToImport(const std::string& id) {
   Unload();
 }
 
-void EntryScreen::TellFault(const Status& fault, const std::string& missing, AbnormalFault abnormal) {
+void EntryScreen::EnableFields(bool enabled) {
+  data.id().Enable(enabled && new_id_);
+  data.EnableData(enabled);
+  EnableExtras(enabled);
+  Drive1.Enable(enabled);
+}
+
+void EntryScreen::TellNotRead(const Status& fault, const std::string& missing, AbnormalFault abnormal) {
   TellRecordFault(platform_.dialogs, fault, missing, kind_.software, abnormal);
   LeaveModes();
-  Text1.SetText("1");  // the number of the button that answered: wanted, the engineer knows it so
+  EnableFields(false);
+  Command9.Disable();
+  Command8.Enable();
+  Command8.SetFocus();
+  Text1.SetText(kAnswered);
+}
+
+void EntryScreen::TellNotWritten(const Status& fault, const std::string& id) {
+  TellRecordFault(platform_.dialogs, fault, id, kind_.software, AbnormalFault::kEndsProgram);
+  EnableFields(true);
+  Text1.SetText(kAnswered);
 }
 
 }  // namespace quixair

@@ -129,6 +129,28 @@ TEST_F(EntryScreens, EmptyId_CannotBeLeft) {
   EXPECT_EQ(Shown(kSpot, "Text1"), kReady);
 }
 
+TEST_F(EntryScreens, EmptyId_IsNeverWritten) {
+  const std::pair<const char*, const char*> kinds[] = {
+      {kSpot, "QXDATA/S.DAT"}, {kSong, "QXDATA/M.DAT"}, {kLiner, "QXDATA/L.DAT"}};
+  for (const auto& [screen, file] : kinds) {
+    for (const bool looked_up : {false, true}) {
+      OpenEntry(screen);
+      Click(screen, "Command1");
+      if (looked_up) {
+        Fill(screen, "Text2", "123");
+        QueueAnswer("OK");
+        Fill(screen, "Text2", "");
+      }
+      Click(screen, "Command9");
+      EXPECT_TRUE(IsOpen(screen));
+      EXPECT_FALSE(Exists(file) || Exists("QXDATA/.DAT")) << file << (looked_up ? " after another id" : "");
+      EXPECT_EQ(station_.FindScreen(screen)->focused()->name(), "Text2");
+      Fill(screen, "Text2", "7");
+      EXPECT_TRUE(Enabled(screen, "Command9")) << "the mode goes on";
+    }
+  }
+}
+
 TEST_F(EntryScreens, TypedIdOfARecording_MakesItAReRecord) {
   AddSpot("S42", 30015, "F", "01-02-26", "03-04-27", "Account");
   BeginNew(kSpot, "42");
@@ -430,6 +452,19 @@ TEST_F(EntryScreens, OldAudioOfSongsAndLiners_GoesBeforeTheCapture) {
   EXPECT_FALSE(Exists("QXWAVE/L1.wav"));
 }
 
+TEST_F(EntryScreens, RecordThatCannotBeRead_LeavesRestartAlone) {
+  PutFile("QXDATA/S9.DAT", "\"[New]\"\r\n\"S9\"\r\n");
+  OpenEntry(kSpot);
+  Click(kSpot, "Command1");
+  QueueAnswer("OK");
+  Fill(kSpot, "Text2", "9");
+  EXPECT_EQ(boxes().back().title, "Abnormal Error # 62");
+  for (const char* off : {"Text2", "Text3", "Command1", "Command9"}) EXPECT_FALSE(Enabled(kSpot, off)) << off;
+  EXPECT_EQ(station_.FindScreen(kSpot)->focused()->name(), "Command8");
+  Click(kSpot, "Command8");
+  EXPECT_EQ(Shown(kSpot, "Text1"), kReady);
+}
+
 TEST_F(EntryScreens, RecordThatCannotBeWritten_EndsTheProgramAfterItsBox) {
   BeginNew(kSpot, "1");
   Block("QXDATA/S1.DAT");
@@ -452,6 +487,8 @@ TEST_F(EntryScreens, MissingDataFolder_HasItsOwnWords) {
     EXPECT_THAT(boxes().back().text, HasSubstr(words));
     EXPECT_EQ(Shown(screen, "Text1"), "1");
     EXPECT_TRUE(station_.running());
+    Click(screen, "Command9");
+    EXPECT_TRUE(Exists(screen == kSpot ? "QXDATA/S1.DAT" : "QXDATA/M1.DAT")) << "nothing typed was lost";
   }
 }
 
