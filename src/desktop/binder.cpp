@@ -21,7 +21,7 @@ void LetEventsIn() {
   --repaints_running;
 }
 
-Binder::Binder(Screen& screen, QWidget& form) : screen_(&screen) {
+Binder::Binder(Screen& screen, QWidget& form) : screen_(&screen), form_(form) {
   flush_timer_.setSingleShot(true);
   flush_timer_.setInterval(0);
   QObject::connect(&flush_timer_, &QTimer::timeout, &flush_timer_, [this] { Flush(); });
@@ -66,15 +66,35 @@ void Binder::Flush() {
   flush_timer_.stop();
   if (screen_ == nullptr) return;
   const std::vector<Binding*> marked = std::exchange(marked_, {});
-  // What appears comes before what goes: the focus of a button that is hidden must find the one that takes
-  // its place.
-  for (const bool visible : {true, false}) {
-    for (Binding* binding : marked) {
-      if (binding->control() != nullptr && binding->control()->visible() == visible) binding->Apply();
-    }
-  }
+  const bool focus_parked = ParkFocus(marked);
+  for (Binding* binding : marked) binding->Apply();
   FoldContainers();
+  if (focus_parked) HandParkedFocusOn();
+  if (screen_ == nullptr) return;  // a box that lost the focus may have closed it
   if (std::exchange(window_changed_, false) && on_window_change) on_window_change(*screen_);
+}
+
+bool Binder::ParkFocus(const std::vector<Binding*>& marked) {
+  // The window's own, which it remembers while another has the keys.
+  const QWidget* const focus = form_.window()->focusWidget();
+  const bool goes = std::any_of(marked.begin(), marked.end(), [focus](const Binding* binding) {
+    const Control* const control = binding->control();
+    if (focus == nullptr || control == nullptr || (control->visible() && control->enabled())) return false;
+    return &binding->widget() == focus || binding->widget().isAncestorOf(focus);
+  });
+  if (!goes) return false;
+  form_.setFocusPolicy(Qt::ClickFocus);  // else a window that comes to the front looks for another
+  form_.setFocus(Qt::OtherFocusReason);
+  return true;
+}
+
+void Binder::HandParkedFocusOn() {
+  const QString name = form_.property("harmless").toString();
+  if (name.isEmpty() || form_.window()->focusWidget() != &form_) return;  // the station said where it goes
+  auto* button = form_.findChild<QWidget*>(name);
+  if (button != nullptr && button->isVisibleTo(&form_) && button->isEnabled()) {
+    button->setFocus(Qt::OtherFocusReason);
+  }
 }
 
 void Binder::FoldContainers() {

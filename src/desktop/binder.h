@@ -2,8 +2,9 @@
 
 // Ties a screen of the station to its form: each control to the widget of its name. Changes on the screen are
 // collected and shown together when the program comes to rest, so that a step may change a list ten thousand
-// times; acts of a person go to the controls at once. The binder belongs to the window that holds the form
-// and is told when the screen goes.
+// times; acts of a person go to the controls at once. A control that goes while it has the focus leaves it to
+// the form's harmless button, so that no key presses what nobody aimed at. The binder belongs to the window
+// that holds the form and is told when the screen goes.
 
 #include <QTimer>
 #include <memory>
@@ -40,10 +41,17 @@ class Binder : public ScreenObserver {
  private:
   void Tie(Control& control, QWidget& form);
   void FlushSoon();
+  /// Takes the focus from a control that is about to be disabled or hidden, before the toolkit hands it on to
+  /// the next one. True when it did.
+  bool ParkFocus(const std::vector<Binding*>& marked);
+  /// To the button that the form's property "harmless" names, when it can be pressed; else the form keeps it,
+  /// where keys do nothing.
+  void HandParkedFocusOn();
   /// A container of the form with the property "foldsAway" gives its place up while all in it is hidden.
   void FoldContainers();
 
   Screen* screen_;
+  QWidget& form_;
   std::unordered_map<const Control*, std::unique_ptr<Binding>> bindings_;
   std::vector<Binding*> marked_;
   std::vector<ScreenView*> views_;

@@ -61,6 +61,9 @@ std::vector<std::string> FormFaults(Screen& screen, QWidget& form) {
     }
   }
   FindStrayWidgets(form, controls, faults);
+  const QString harmless = form.property("harmless").toString();
+  if (!harmless.isEmpty() && controls.count(harmless) == 0)
+    faults.push_back("there is no control " + harmless.toStdString() + " to leave the focus to");
   return faults;
 }
 

@@ -288,6 +288,34 @@ TEST_F(BinderTest, FocusFollowsTheStation) {
   EXPECT_EQ(form_.root.focusWidget(), form_.check);
 }
 
+TEST_F(BinderTest, FocusOfAControlThatGoes_IsLeftToTheHarmlessButton_NeverToTheNext) {
+  struct Case {
+    const char* what;
+    QWidget* focus;
+    std::function<void()> act;
+    QWidget* expected;
+  };
+  Bind();
+  form_.root.activateWindow();
+  form_.root.setProperty("harmless", "Command1");
+  const std::vector<Case> cases = {
+      {"disabled", form_.line, [&] { screen_->Text1.Disable(); }, form_.button},
+      {"hidden", form_.check, [&] { screen_->Check1.Hide(); }, form_.button},
+      {"in a frame that is hidden", form_.first, [&] { screen_->Frame1.Hide(); }, form_.button},
+      {"hidden, the station says where", form_.page,
+       [&] { screen_->List1.SetFocus(), screen_->Text2.Hide(); }, form_.list},
+      {"another one is disabled", form_.list, [&] { screen_->Drive1.Disable(); }, form_.list},
+      {"the harmless one itself", form_.button, [&] { screen_->Command1.Disable(); }, &form_.root},
+      {"no harmless one to press", form_.list, [&] { screen_->List1.Disable(); }, &form_.root},
+  };
+  for (const Case& trial : cases) {
+    trial.focus->setFocus();
+    trial.act();
+    binder_->Flush();
+    EXPECT_EQ(form_.root.focusWidget(), trial.expected) << trial.what;
+  }
+}
+
 TEST_F(BinderTest, ClickOnFrame_ReachesIt) {
   int clicks = 0;
   screen_->Frame1.on_click = [&clicks] { ++clicks; };

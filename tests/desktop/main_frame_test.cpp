@@ -182,6 +182,19 @@ TEST_F(MainFrameTest, AccessKeyOfTwoButtons_GoesBetweenThemAndPressesNeither) {
   EXPECT_FALSE(Find<TextBox>("RecordSpot", "Text3").enabled()) << "Enter presses the one in focus";
 }
 
+TEST_F(OnAirWindow, ControlsThatGoAtAKey_LeaveTheFocusOnContinue) {
+  frame_->activateWindow();
+  for (const auto& [key, button] : {std::pair(Qt::Key_S, "Start"), {Qt::Key_B, "BeginNextCommand"}}) {
+    Widget<QPushButton>("RandomForm1", button).setFocus();
+    QTest::keyClick(QApplication::focusWidget(), key, Qt::AltModifier);
+    Rest();
+    EXPECT_EQ(QApplication::focusWidget(), &Widget<QPushButton>("RandomForm1", "ContinueCommand")) << button;
+  }
+  EXPECT_EQ(aired().size(), 2U);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+  EXPECT_EQ(Find<Button>("RandomForm1", "GoLive").caption(), "Go &Live Next");
+}
+
 TEST_F(OnAirWindow, EndRun_TakesTheWindowAway) {
   Press("Start");
   Press("EndRunCommand");
