@@ -11,7 +11,6 @@
 #include <stdexcept>
 
 #include "station/console/value_form.h"
-#include "station/library/recording_file.h"
 #include "station/platform/civil_time.h"
 #include "station/platform/text.h"
 #include "station/screen/controls.h"
@@ -31,6 +30,12 @@ std::string Id(const char* pattern, int number) {
   char id[16];
   std::snprintf(id, sizeof id, pattern, number);
   return id;
+}
+
+std::string Lines(std::initializer_list<std::string_view> values) {
+  WriteForm form;
+  for (const std::string_view value : values) form.Text(value);
+  return form.bytes();
 }
 
 std::int32_t StandInLength(const fs::path& path) {
@@ -75,22 +80,17 @@ BenchStation::BenchStation(int songs, int song_ms) {
   };
   for (int i = 1; i <= songs; ++i) {
     const std::string id = Id("M%05d", i);
-    add(id,
-        FormatRecord(
-            MusicRecord{"180", id, "C", "Artist of " + id, "Title of " + id, "A", "01-01-26", "2026"}),
-        song_ms);
+    add(id, Lines({"180", id, "C", "Artist of " + id, "Title of " + id, "A", "01-01-26", "2026"}), song_ms);
   }
   for (int i = 1; i <= 14; ++i) {
     const std::string id = i <= 10 ? Id("L%04d", i) : Id("LL%03d", i);
-    add(id, FormatRecord(LinerRecord{"5", id, "C", "Liner " + id, "A", "G", "01-01-26", ""}), 5000);
+    add(id, Lines({"5", id, "C", "Liner " + id, "A", "G", "01-01-26", ""}), 5000);
   }
   std::vector<TemplateEvent> rotation;
   for (int i = 1; i <= 40; ++i) {
     const std::string id = Id("S%04d", i);
     const std::string product(1, static_cast<char>('A' + i % 20));
-    add(id,
-        FormatRecord(SpotRecord{"30", id, "C", "Account", "Spot " + id, "01-01-26", "", product, "A", "30"}),
-        30000);
+    add(id, Lines({"30", id, "C", "Account", "Spot " + id, "01-01-26", "", product, "A", "30"}), 30000);
     rotation.push_back({id, "Spot"});
   }
   Put(folder_ / "QXTEMPLT" / "ROTATWIN.DTA", FormatTemplate(rotation));

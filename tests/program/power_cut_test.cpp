@@ -14,7 +14,6 @@
 #include <thread>
 
 #include "station/host/system_clock.h"
-#include "station/library/recording_file.h"
 #include "station/platform/civil_time.h"
 #include "station/platform/text.h"
 #include "support/outside_programs.h"
@@ -100,10 +99,10 @@ class PowerCut : public ::testing::Test {
 
   void AddSong(int number) {
     const std::string id = "M" + std::to_string(10000 + number);
-    PutRecording(id, FormatRecord(MusicRecord{"2.5", id, "C", "Artist", "Title", "A", "01-01-26", "2026"}));
+    PutRecording(id, Lines({"2.5", id, "C", "Artist", "Title", "A", "01-01-26", "2026"}));
   }
   void AddLiner(const std::string& id) {
-    PutRecording(id, FormatRecord(LinerRecord{"2.5", id, "C", "Liner", "A", "G", "01-01-26", ""}));
+    PutRecording(id, Lines({"2.5", id, "C", "Liner", "A", "G", "01-01-26", ""}));
   }
   void PutRecording(const std::string& id, const std::string& record) {
     WriteHostFile(Host("QXDATA/" + id + ".DAT"), record);

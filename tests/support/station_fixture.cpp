@@ -6,7 +6,6 @@
 
 #include "script/script_language.h"
 #include "station/console/value_form.h"
-#include "station/library/recording_file.h"
 #include "station/platform/civil_time.h"
 #include "station/platform/text.h"
 #include "station/templates/template_file.h"
@@ -45,6 +44,12 @@ void WriteHostFile(const std::filesystem::path& path, std::string_view bytes) {
   std::ofstream(path, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }
 
+std::string Lines(const std::vector<std::string>& values) {
+  std::string lines;
+  for (const std::string& value : values) lines += '"' + value + "\"\r\n";
+  return lines;
+}
+
 StationFixture::StationFixture()
     : station_(DrivesIn(folder_.path()), script::MomentOf("2026-11-22 20:30:00"), StandInLength, 1) {
   PutFile("QXAIR/REGOCX.DTA", "1\r\n");
@@ -69,44 +74,25 @@ void StationFixture::AddAudio(std::string_view id, int milliseconds, std::string
 }
 
 void StationFixture::AddSong(std::string_view id, int milliseconds, std::string_view artist) {
-  const MusicRecord song{.Length = ShortestSeconds(milliseconds),
-                         .RecordingId = std::string(id),
-                         .Drive = "C",
-                         .Artist = std::string(artist),
-                         .Title = "Title of " + std::string(id),
-                         .Rotation = "A",
-                         .StartDate = "01-01-26",
-                         .FromYear = "2026"};
-  PutFile("QXDATA/" + std::string(id) + ".DAT", FormatRecord(song));
+  const std::string name(id);
+  PutFile("QXDATA/" + name + ".DAT", Lines({ShortestSeconds(milliseconds), name, "C", std::string(artist),
+                                            "Title of " + name, "A", "01-01-26", "2026"}));
   AddAudio(id, milliseconds);
 }
 
 void StationFixture::AddLiner(std::string_view id, int milliseconds) {
-  const LinerRecord liner{.Length = ShortestSeconds(milliseconds),
-                          .RecordingId = std::string(id),
-                          .Drive = "C",
-                          .Title = "Liner " + std::string(id),
-                          .Announcer = "A",
-                          .LinerType = "G",
-                          .StartDate = "01-01-26",
-                          .KillDate = ""};
-  PutFile("QXDATA/" + std::string(id) + ".DAT", FormatRecord(liner));
+  const std::string name(id);
+  PutFile("QXDATA/" + name + ".DAT",
+          Lines({ShortestSeconds(milliseconds), name, "C", "Liner " + name, "A", "G", "01-01-26", ""}));
   AddAudio(id, milliseconds);
 }
 
 void StationFixture::AddSpot(std::string_view id, int milliseconds, std::string_view product,
                              std::string_view start, std::string_view kill, std::string_view account) {
-  const SpotRecord spot{.Length = ShortestSeconds(milliseconds),
-                        .RecordingId = std::string(id),
-                        .Drive = "C",
-                        .Account = std::string(account),
-                        .Title = "Spot " + std::string(id),
-                        .StartDate = std::string(start),
-                        .KillDate = std::string(kill),
-                        .Product = std::string(product),
-                        .Announcer = "A",
-                        .PresetLength = ""};
-  PutFile("QXDATA/" + std::string(id) + ".DAT", FormatRecord(spot));
+  const std::string name(id);
+  PutFile("QXDATA/" + name + ".DAT",
+          Lines({ShortestSeconds(milliseconds), name, "C", std::string(account), "Spot " + name,
+                 std::string(start), std::string(kill), std::string(product), "A", ""}));
   AddAudio(id, milliseconds);
 }
 

@@ -33,6 +33,8 @@ using simulation::TemporaryFolder;
 std::int32_t StandInLength(const std::filesystem::path& path);
 std::string ReadHostFile(const std::filesystem::path& path);
 void WriteHostFile(const std::filesystem::path& path, std::string_view bytes);
+/// A text a line, as data files have them.
+std::string Lines(const std::vector<std::string>& values);
 
 /// One item that a channel was opened for.
 struct Aired {

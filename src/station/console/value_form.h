@@ -41,6 +41,8 @@ class ReadForm {
   Result<std::string> Next();
   /// Nothing is left to read.
   bool AtEnd() const;
+  /// What is left, as it stands.
+  std::string_view rest() const { return rest_; }
 
  private:
   void DropDelimiter();

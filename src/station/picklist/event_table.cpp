@@ -6,7 +6,7 @@
 
 #include "station/console/station_paths.h"
 #include "station/console/value_form.h"
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 #include "station/platform/text.h"
 #include "station/templates/template_file.h"
 
@@ -14,7 +14,6 @@ namespace quixair {
 namespace {
 
 constexpr std::string_view kEmptyPlace = "EMPTY!!!";
-constexpr std::size_t kDataLines = 5;
 constexpr std::size_t kTitleInRow = 8;
 // The screen's running total is a 16-bit number: nine hours.
 constexpr int kMostSeconds = std::numeric_limits<std::int16_t>::max();
@@ -76,11 +75,14 @@ Status EventTable::ReadDataFiles(Files& files) {
     event.EventLength = "0";
     event.EventField4.clear();
     if (IsNoRecording(event.EventId)) continue;
-    std::vector<std::string> fields = ReadLeadingFields(files, event.EventId, kDataLines);
-    if (!fields[0].empty()) event.EventLength = std::move(fields[0]);
-    event.EventDrive = std::move(fields[2]);
-    event.EventField4 = fields[3].empty() ? std::string("[Empty?]") : std::move(fields[3]);
-    event.EventField5 = std::move(fields[4]);
+    Recording recording(event.EventId);
+    SkipAndGoOn(recording.Read(files));
+    const std::string& length = recording.value(Field::kLength);
+    const std::string& first_label = recording.value(Field::kFirstLabel);
+    if (!length.empty()) event.EventLength = length;
+    event.EventDrive = recording.value(Field::kDrive);
+    event.EventField4 = first_label.empty() ? std::string("[Empty?]") : first_label;
+    event.EventField5 = recording.value(Field::kSecondLabel);
     const int total = total_seconds_ + RoundedSeconds(event.EventLength);
     if (total > kMostSeconds) {
       fault = RunTimeError::kOverflow;

@@ -8,7 +8,7 @@
 #include "station/console/settings_files.h"
 #include "station/console/station_paths.h"
 #include "station/library/item_resolution.h"
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 #include "station/picklist/lineup_totals.h"
 #include "station/picklist/pick_list_form1.h"
 #include "station/picklist/pick_list_playback.h"
@@ -201,15 +201,18 @@ void PickListEngine::CheckSpot() {
 /// Random playback lets a text that is no date pass; here it is a fault that nothing catches. The kill date of a
 /// spot that has yet to start is not looked at.
 std::optional<std::string> PickListEngine::RefusalByDates(const std::string& id) const {
-  const std::vector<std::string> fields = ReadLeadingFields(context_.platform.files, id, 7);
+  Recording spot(id);
+  SkipAndGoOn(spot.Read(context_.platform.files));
+  const std::string& start_date = spot.value(Field::kStartDate);
+  const std::string& kill_date = spot.value(Field::kKillDate);
   const CivilTime today = context_.platform.clock.Now();
   const auto date_or_end = [&today](const std::string& date) {
     if (!date.empty() && !CalendarDay(date, today.year)) OrEndProgram(RunTimeError::kTypeMismatch);
   };
-  date_or_end(fields[5]);
-  if (auto too_early = SpotDateRefusal(fields[5], "", today)) return too_early;
-  date_or_end(fields[6]);
-  return SpotDateRefusal("", fields[6], today);
+  date_or_end(start_date);
+  if (auto too_early = SpotDateRefusal(start_date, "", today)) return too_early;
+  date_or_end(kill_date);
+  return SpotDateRefusal("", kill_date, today);
 }
 
 /// What was refused never sounds. A list of nothing but spots that are out of their dates must come to an end:

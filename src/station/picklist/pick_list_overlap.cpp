@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 #include "station/picklist/pick_list_form1.h"
 #include "station/picklist/pick_list_playback.h"
 

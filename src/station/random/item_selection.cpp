@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 
 namespace quixair {
 namespace {

@@ -5,7 +5,7 @@
 #include "station/console/settings_files.h"
 #include "station/console/station_paths.h"
 #include "station/library/item_resolution.h"
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 #include "station/platform/civil_time.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/event_gate.h"

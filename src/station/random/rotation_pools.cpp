@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "station/console/station_paths.h"
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 
 namespace quixair {
 namespace {
@@ -13,9 +13,21 @@ int FurtherMatches(Files& files, std::string_view pattern) {
   return static_cast<int>(std::max<std::size_t>(matches, 1) - 1);
 }
 
-/// A torn file does not tell its id; its name does.
-std::string IdOr(std::string field, std::string_view file_id) {
-  return field.empty() ? std::string(file_id) : std::move(field);
+Recording ReadSkipping(Files& files, Recording recording) {
+  SkipAndGoOn(recording.Read(files));
+  return recording;
+}
+
+/// What all kinds tell.
+PoolRow RowOf(const Recording& recording) {
+  // A torn file does not tell its id; its name does.
+  const std::string& told = recording.value(Field::kRecordingId);
+  return {.RecordingId = told.empty() ? recording.id() : told,
+          .Drive = recording.value(Field::kDrive),
+          .first_text = {},
+          .Title = recording.value(Field::kTitle),
+          .Length = recording.value(Field::kLength),
+          .Product = {}};
 }
 
 }  // namespace
@@ -31,43 +43,30 @@ int GetFilelegalcount(Files& files) {
 }
 
 PoolRow ReadSong(Files& files, std::string_view id) {
-  std::vector<std::string> fields = ReadLeadingFields(files, id, kMusicFields);
-  return {.RecordingId = IdOr(std::move(fields[1]), id),
-          .Drive = std::move(fields[2]),
-          .first_text = std::move(fields[3]),
-          .Title = std::move(fields[4]),
-          .Length = std::move(fields[0]),
-          .Product = {}};
+  const Recording song = ReadSkipping(files, Recording(id, RecordingKind::kMusic));
+  PoolRow row = RowOf(song);
+  row.first_text = song.value(Field::kArtist);
+  return row;
 }
 
 PoolRow ReadLiner(Files& files, std::string_view id) {
-  std::vector<std::string> fields = ReadLeadingFields(files, id, kLinerFields);
-  return {.RecordingId = IdOr(std::move(fields[1]), id),
-          .Drive = std::move(fields[2]),
-          .first_text = {},
-          .Title = std::move(fields[3]),
-          .Length = std::move(fields[0]),
-          .Product = {}};
+  return RowOf(ReadSkipping(files, Recording(id, RecordingKind::kLiner)));
 }
 
 PoolRow ReadLegalId(Files& files, std::string_view id) {
-  std::vector<std::string> fields = ReadLeadingFields(files, id, kLinerFields);
-  return {.RecordingId = IdOr(std::move(fields[1]), id),
-          .Drive = std::move(fields[2]),
-          .first_text = std::move(fields[4]),
-          .Title = std::move(fields[3]),
-          .Length = std::move(fields[0]),
-          .Product = {}};
+  const Recording liner = ReadSkipping(files, Recording(id, RecordingKind::kLiner));
+  PoolRow row = RowOf(liner);
+  row.first_text = liner.value(Field::kAnnouncer);
+  return row;
 }
 
 PoolRow ReadRotationSpot(Files& files, std::string_view id) {
-  std::vector<std::string> fields = ReadLeadingFields(files, id, 8);
-  return {.RecordingId = std::string(id),
-          .Drive = std::move(fields[2]),
-          .first_text = std::move(fields[3]),
-          .Title = std::move(fields[4]),
-          .Length = std::move(fields[0]),
-          .Product = std::move(fields[7])};
+  const Recording spot = ReadSkipping(files, Recording(id, RecordingKind::kSpot));
+  PoolRow row = RowOf(spot);
+  row.RecordingId = id;
+  row.first_text = spot.value(Field::kAccount);
+  row.Product = spot.value(Field::kProduct);
+  return row;
 }
 
 }  // namespace quixair

@@ -6,7 +6,7 @@
 #include "station/console/logs.h"
 #include "station/console/station_paths.h"
 #include "station/library/item_resolution.h"
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 #include "station/platform/civil_time.h"
 #include "station/platform/text.h"
 #include "station/random/random_form1.h"
@@ -122,8 +122,10 @@ std::optional<std::string> SequencingEngine::RefusalOfSpot(const std::string& id
   if (date_check == SpotDateSwitch::kUnknown)
     context_.screen.Switches.Check4.SetCaption(SpotDateCaption(date_check));
   if (date_check != SpotDateSwitch::kOn) return std::nullopt;
-  const std::vector<std::string> fields = ReadLeadingFields(files, id, 7);
-  return SpotDateRefusal(fields[5], fields[6], context_.platform.clock.Now());
+  Recording spot(id);
+  SkipAndGoOn(spot.Read(files));
+  return SpotDateRefusal(spot.value(Field::kStartDate), spot.value(Field::kKillDate),
+                         context_.platform.clock.Now());
 }
 
 void SequencingEngine::Refuse(const std::string& row) {

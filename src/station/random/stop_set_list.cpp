@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 #include "station/platform/civil_time.h"
 #include "station/platform/text.h"
 
@@ -10,7 +10,6 @@ namespace quixair {
 namespace {
 
 constexpr std::string_view kEmptyRow = "EMPTY!!!";
-constexpr std::size_t kDataLines = 5;
 
 /// Unlike elsewhere, what is none of the known codes counts as a recording and tries its data file.
 bool HasDataFile(const StopSetRow& row) {
@@ -19,10 +18,11 @@ bool HasDataFile(const StopSetRow& row) {
 }
 
 void ReadData(Files& files, StopSetRow& row) {
-  std::vector<std::string> fields = ReadLeadingFields(files, row.EventId, kDataLines);
-  row.Length = std::move(fields[0]);
-  row.Drive = std::move(fields[2]);
-  row.Title = std::move(fields[4]);
+  Recording recording(row.EventId);
+  SkipAndGoOn(recording.Read(files));
+  row.Length = recording.value(Field::kLength);
+  row.Drive = recording.value(Field::kDrive);
+  row.Title = recording.value(Field::kSecondLabel);
 }
 
 StopSetRow RowOf(TemplateEvent event) {

@@ -2,7 +2,7 @@
 
 #include "station/console/station_paths.h"
 #include "station/library/item_resolution.h"
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 #include "station/platform/civil_time.h"
 #include "station/random/random_form1.h"
 #include "station/random/random_playback.h"

@@ -31,7 +31,8 @@ ArtistTitle::ArtistTitle(const Platform& platform) : Screen(platform, "ArtistTit
 
 void ArtistTitle::Load() {
   for (std::string& file : platform_.files.List(station_paths::kDataFolder, "M*.DAT").value_or({})) {
-    songs_.push_back({.file = std::move(file), .record = {}});
+    Recording song(file.substr(0, file.rfind('.')));
+    songs_.push_back({.file = std::move(file), .recording = std::move(song)});
   }
   if (songs_.size() < kFewest) {
     platform_.dialogs.MessageBox(
@@ -55,7 +56,7 @@ void ArtistTitle::Load() {
 
 bool ArtistTitle::ReadSong() {
   Song& song = songs_[read_++];
-  song.record = MusicFieldsOf(platform_.files.Read(PathOf(song.file)).value_or({}));
+  SkipAndGoOn(song.recording.Parse(platform_.files.Read(PathOf(song.file)).value_or({})));
   return read_ < songs_.size();
 }
 
@@ -78,35 +79,35 @@ void ArtistTitle::ShowAll() {
 void ArtistTitle::LoadSelected() {
   if (List1.selected_index() < 0) return;
   loaded_ = static_cast<std::size_t>(List1.selected_index());
-  ShowFields(songs_[loaded_].record);
+  ShowFields(songs_[loaded_].recording);
   Command1.Enable();
 }
 
 void ArtistTitle::SaveItem() {
   const Song& song = songs_[loaded_];
-  MusicRecord edited = song.record;
-  edited.Artist = artisttext.text();
-  edited.Title = titletext.text();
-  edited.Rotation = RotationText.text();
-  edited.FromYear = fromyeartext.text();
-  const Status saved = platform_.files.Write(PathOf(song.file), FormatRecord(edited), Durability::kFlushed);
+  Recording edited = song.recording;
+  edited.Set(Field::kArtist, artisttext.text());
+  edited.Set(Field::kTitle, titletext.text());
+  edited.Set(Field::kRotation, RotationText.text());
+  edited.Set(Field::kFromYear, fromyeartext.text());
+  const Status saved = platform_.files.Write(PathOf(song.file), edited.Format(), Durability::kFlushed);
   if (!saved.ok()) return TellFileFault(platform_.dialogs, saved, song.file + " was not saved.");
-  ShowFields({});
+  ShowFields(Recording(""));
   if (loaded_ + 1 == songs_.size()) return;
   List1.Select(static_cast<int>(loaded_ + 1));
   LoadSelected();
   artisttext.SetFocus();
 }
 
-void ArtistTitle::ShowFields(const MusicRecord& record) {
-  artisttext.SetText(record.Artist);
-  titletext.SetText(record.Title);
-  RotationText.SetText(record.Rotation);
-  fromyeartext.SetText(record.FromYear);
-  startdatetext.SetText(record.StartDate);
-  lengthtext.SetText(record.Length);
-  idtext.SetText(record.RecordingId);
-  drivetext.SetText(record.Drive);
+void ArtistTitle::ShowFields(const Recording& song) {
+  artisttext.SetText(song.value(Field::kArtist));
+  titletext.SetText(song.value(Field::kTitle));
+  RotationText.SetText(song.value(Field::kRotation));
+  fromyeartext.SetText(song.value(Field::kFromYear));
+  startdatetext.SetText(song.value(Field::kStartDate));
+  lengthtext.SetText(song.value(Field::kLength));
+  idtext.SetText(song.value(Field::kRecordingId));
+  drivetext.SetText(song.value(Field::kDrive));
 }
 
 void ArtistTitle::ShowHelp() {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 #include "station/screen/portioned_work.h"
 #include "station/screen/screen.h"
 
@@ -40,14 +40,14 @@ class ArtistTitle : public Screen {
  private:
   struct Song {
     std::string file;
-    MusicRecord record;
+    Recording recording;
   };
   /// The next one; true while more are left.
   bool ReadSong();
   void ShowAll();
   void LoadSelected();
   void SaveItem();
-  void ShowFields(const MusicRecord& record);
+  void ShowFields(const Recording& song);
   void ShowHelp();
 
   std::vector<Song> songs_;  // in the folder's order

@@ -2,6 +2,7 @@
 
 #include "station/console/station_paths.h"
 #include "station/console/value_form.h"
+#include "station/library/hand_over_files.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/files.h"
 #include "station/platform/text.h"
@@ -11,31 +12,25 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr CaptureKind kSpot = {RecordingKind::kSpot, "RecordITSpot", "Spot Record", "RecordSpot"};
-constexpr CaptureKind kMusic = {RecordingKind::kMusic, "RecordIt", "Music Record", "RecordASong"};
-constexpr CaptureKind kLiner = {RecordingKind::kLiner, "RecordITLiner", "Liner Record", "RecordLiner"};
+constexpr CaptureKind kSpot = {RecordingKind::kSpot, "RecordITSpot", "Spot Record", "RecordSpot", 0};
+constexpr CaptureKind kMusic = {RecordingKind::kMusic, "RecordIt", "Music Record", "RecordASong", 2};
+constexpr CaptureKind kLiner = {RecordingKind::kLiner, "RecordITLiner", "Liner Record", "RecordLiner", 3};
 constexpr milliseconds kEndInterval{1000};
 
 }  // namespace
 
 CaptureScreen::CaptureScreen(const Platform& platform, const CaptureKind& kind)
-    : Screen(platform, kind.screen, kind.title),
-      data(*this, LayoutOf(kind.kind), TextBox::Use::kShow),
-      kind_(kind),
-      layout_(LayoutOf(kind.kind)) {
+    : Screen(platform, kind.screen, kind.title), data(*this, kind.kind, TextBox::Use::kShow), kind_(kind) {
   recorder.on_saved = [this](const std::string& seconds) { return Save(seconds); };
   recorder.NowExit.on_click = [this] { BackToEntry(); };
   recorder.CancelButton.on_click = [this] { Erase(); };
 }
 
 void CaptureScreen::Load() {
-  const std::string handed_over = ReadHandOverRecord(platform_.files).value_or({});
-  values_ = ReadValues(handed_over, layout_.lines.size());
-  values_.resize(layout_.lines.size());
-  data.Show(values_);
-  const std::string& drive = ValueOf(values_, layout_, RecordSlot::kDrive);
-  recorder.path = station_paths::AudioFile(drive.empty() ? "C" : drive,
-                                           ValueOf(values_, layout_, RecordSlot::kId), ".WAV");
+  recording_ = ReadHandOver(platform_.files, kind_.kind);
+  data.Show(recording_);
+  const std::string& drive = recording_.value(Field::kDrive);
+  recorder.path = station_paths::AudioFile(drive.empty() ? "C" : drive, recording_.id(), ".WAV");
   recorder.Prepare();
   recorder.RecordBtn.SetFocus();
 }
@@ -58,21 +53,20 @@ void CaptureScreen::ProgramEnds() {
   recorder.Stop();
 }
 
-std::string CaptureScreen::DataPath() {
-  return station_paths::DataFile(ValueOf(values_, layout_, RecordSlot::kId));
+std::string CaptureScreen::DataPath() const {
+  return station_paths::DataFile(recording_.id());
 }
 
 Status CaptureScreen::WriteDataFile(const std::string& seconds) {
-  ValueOf(values_, layout_, RecordSlot::kLength) = seconds;
-  WriteForm form;
-  for (const std::string& value : values_) form.Text(value);
-  for (int line = 0; line < layout_.empty_lines; ++line) form.Nothing();
-  return platform_.files.Write(DataPath(), form.bytes(), Durability::kFlushed);
+  recording_.Set(Field::kLength, seconds);
+  WriteForm empty;
+  for (int line = 0; line < kind_.empty_lines; ++line) empty.Nothing();
+  return platform_.files.Write(DataPath(), recording_.Format() + empty.bytes(), Durability::kFlushed);
 }
 
 bool CaptureScreen::Save(const std::string& seconds) {
   const Status written = WriteDataFile(seconds);
-  data.Show(values_);
+  data.Show(recording_);
   if (written.ok()) return true;
   recorder.Text6.SetText("The data file was not written; the recording is " + recorder.path);
   TellFileFault(platform_.dialogs, written,
@@ -82,8 +76,7 @@ bool CaptureScreen::Save(const std::string& seconds) {
 
 /// The recording goes, not only this capture: it may have been there long before.
 void CaptureScreen::Erase() {
-  const std::string id = ValueOf(values_, layout_, RecordSlot::kId);
-  if (!recorder.EraseConfirmed(id)) return;
+  if (!recorder.EraseConfirmed(recording_.id())) return;
   SkipAndGoOn(platform_.files.Delete(DataPath()));
   SkipAndGoOn(platform_.files.Delete(recorder.path));
   BackToEntry();
@@ -109,7 +102,7 @@ RecordITSpot::RecordITSpot(const Platform& platform) : CaptureScreen(platform, k
 }
 
 void RecordITSpot::SetLimit() {
-  const std::string& preset = ValueOf(values(), layout(), RecordSlot::kPreset);
+  const std::string& preset = recording().value(Field::kPresetLength);
   recorder.limit = preset.empty() ? kNoLimit : milliseconds(std::int64_t{WholeValue(preset)} * 1000);
   Label17.SetCaption(preset.empty() ? std::string() : "out of " + preset + " Secs.");
 }

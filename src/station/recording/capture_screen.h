@@ -18,6 +18,7 @@ struct CaptureKind {
   const char* screen;
   const char* title;
   const char* entry_screen;
+  int empty_lines;  // a capture adds so many to the data file: wanted, programs that read the files know them so
 };
 
 class CaptureScreen : public Screen {
@@ -33,20 +34,18 @@ class CaptureScreen : public Screen {
   RecorderPanel recorder{*this};
 
  protected:
-  /// The values as handed over; lines that were not there are empty.
-  RecordValues& values() { return values_; }
-  const RecordLayout& layout() const { return layout_; }
+  /// As handed over; lines that were not there are empty.
+  const Recording& recording() const { return recording_; }
 
  private:
   Status WriteDataFile(const std::string& seconds);
   bool Save(const std::string& seconds);
-  std::string DataPath();
+  std::string DataPath() const;
   void Erase();
   void BackToEntry();
 
   const CaptureKind& kind_;
-  const RecordLayout& layout_;
-  RecordValues values_;
+  Recording recording_{{}, kind_.kind};
 };
 
 class RecordITSpot : public CaptureScreen {

@@ -31,7 +31,7 @@ void EntryScreen::Audition() {
   const std::string id = platform_.dialogs.InputBox(
       "Enter ID, then 'OK', or 'Cancel' to choose from list..\n"
       "[Make sure you include 'S' 'M' or 'L' as the first digit.]",
-      "Audition Recording", {.text = layout_.Letter(), .use = InputOffer::Use::kBeginning});
+      "Audition Recording", {.text = letter_, .use = InputOffer::Use::kBeginning});
   if (id.empty()) {
     File1.Enable();
     File1.SetFocus();
@@ -42,16 +42,16 @@ void EntryScreen::Audition() {
 
 /// An id of another kind is taken by this screen's lines, too short a file ending the program: wanted.
 void EntryScreen::Play(const std::string& id) {
-  Result<RecordValues> read = ReadRecordFields(platform_.files, id, layout_.lines.size());
+  Recording recording(id, kind_.kind);
+  const Status read = recording.Read(platform_.files);
   if (!read.ok()) {
-    TellNotRead(read.status(), id, AbnormalFault::kEndsProgram);
+    TellNotRead(read, id, AbnormalFault::kEndsProgram);
     if (read.error() == RunTimeError::kFileNotFound) Load();
     return;
   }
-  RecordValues values = std::move(read).value();
   data.id().SetMaxLength(static_cast<int>(id.size()));
-  data.Show(values);
-  const std::string path = AudioPath(ValueOf(values, layout_, RecordSlot::kDrive), id);
+  data.Show(recording);
+  const std::string path = AudioPath(recording.value(Field::kDrive), id);
   OpenAudio(path);
   if (MMControl1.Mode() == ChannelMode::kNotOpen) {
     Text1.SetText("There is no audio to play: " + (path.empty() ? id : path));

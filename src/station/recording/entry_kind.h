@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "station/recording/record_layout.h"
+#include "station/library/recording.h"
 
 namespace quixair {
 

@@ -1,5 +1,6 @@
 #include "station/recording/entry_screen.h"
 
+#include "station/library/hand_over_files.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/programs.h"
 #include "station/platform/recorder.h"
@@ -17,10 +18,7 @@ constexpr std::size_t kExtension = 4;
 }  // namespace
 
 EntryScreen::EntryScreen(const Platform& platform, const EntryKind& kind)
-    : Screen(platform, kind.screen, kind.title),
-      data(*this, LayoutOf(kind.kind), TextBox::Use::kEnter),
-      kind_(kind),
-      layout_(LayoutOf(kind.kind)) {
+    : Screen(platform, kind.screen, kind.title), data(*this, kind.kind, TextBox::Use::kEnter), kind_(kind) {
   Label11.SetCaption(kind.list_caption);
   Label12.SetCaption(kind.id_cue);
   data.id().SetHint(kind.id_cue);
@@ -112,6 +110,7 @@ void EntryScreen::CloseWindow() {
 void EntryScreen::LeaveModes() {
   mode_ = Mode::kNone;
   new_id_ = false;
+  existing_.reset();
   looked_up_.clear();
   Timer1.SetEnabled(false);
   MMControl1.Command(ChannelCommand::kClose);
@@ -156,7 +155,7 @@ void EntryScreen::EditData() {
   for (;;) {
     const std::string id = platform_.dialogs.InputBox(
         std::string("Enter ID, then 'OK', or 'Cancel' to choose from list..\n") + kind_.editable, "Edit Data",
-        {.text = layout_.Letter(), .use = InputOffer::Use::kBeginning});
+        {.text = letter_, .use = InputOffer::Use::kBeginning});
     if (id.empty()) {
       File1.Enable();
       File1.SetFocus();
@@ -164,7 +163,7 @@ void EntryScreen::EditData() {
     }
     data.id().SetText(id);
     if (ShowRecording(id) != RunTimeError::kFileNotFound) return;
-    TellRecordFault(platform_.dialogs, RunTimeError::kFileNotFound, layout_.letter + id, kind_.software,
+    TellRecordFault(platform_.dialogs, RunTimeError::kFileNotFound, letter_ + id, kind_.software,
                     AbnormalFault::kReturns);
   }
 }
@@ -190,7 +189,7 @@ void EntryScreen::ReRecordLast() {
   const Result<std::string> last = ReadLastRecording(platform_.files);
   if (!last.ok()) {
     RefuseLast("Sorry, There is no previous file to re-record!");
-  } else if (!StartsWithIgnoringCase(last.value(), layout_.Letter())) {
+  } else if (!StartsWithIgnoringCase(last.value(), letter_)) {
     RefuseLast(kind_.wrong_last_file);
   } else {
     mode_ = Mode::kReRecordLast;
@@ -235,42 +234,41 @@ void EntryScreen::IdLeft() {
     return;
   }
   looked_up_ = typed;
-  new_id_ = ShowRecording(layout_.letter + typed) == RunTimeError::kFileNotFound;
+  new_id_ = ShowRecording(letter_ + typed) == RunTimeError::kFileNotFound;
 }
 
 RunTimeError EntryScreen::ShowRecording(const std::string& id) {
   // A recording of another kind has its lines in another order: it is none of this screen's.
-  if (!StartsWithIgnoringCase(id, layout_.Letter())) return RunTimeError::kFileNotFound;
-  Result<RecordValues> read = ReadRecordFields(platform_.files, id, layout_.lines.size());
+  if (!StartsWithIgnoringCase(id, letter_)) return RunTimeError::kFileNotFound;
+  Recording recording(id);
+  const Status read = recording.Read(platform_.files);
   if (read.error() == RunTimeError::kFileNotFound) return read.error();
   if (!read.ok()) {
-    TellNotRead(read.status(), id, AbnormalFault::kReturns);
+    TellNotRead(read, id, AbnormalFault::kReturns);
     return read.error();
   }
-  RecordValues values = std::move(read).value();
-  ValueOf(values, layout_, RecordSlot::kId) = id;
-  ShowExisting(values);
+  recording.Set(Field::kRecordingId, id);
+  existing_ = recording;
+  ShowExisting(recording);
   return RunTimeError::kNone;
 }
 
-void EntryScreen::ShowExisting(RecordValues& values) {
+void EntryScreen::ShowExisting(const Recording& recording) {
   data.id().SetMaxLength(kWholeId);
-  data.Show(values);
+  data.Show(recording);
   data.id().Disable();
   data.EnableData(true);
   EnableExtras(true);
-  drive_ = ValueOf(values, layout_, RecordSlot::kDrive);
+  drive_ = recording.value(Field::kDrive);
   Drive1.Hide();
   data.drive().Show();
   Label12.Hide();
   EnableChoices(false);
   Command8.Enable();
   Command9.Enable();
-  if (mode_ == Mode::kEdit) {
-    Text1.SetText(ValueOf(values, layout_, RecordSlot::kId) + kind_.file_taken);
-  }
-  if (layout_.HasPreset()) PresetRead(ValueOf(values, layout_, RecordSlot::kPreset));
-  MeasureAudio(ValueOf(values, layout_, RecordSlot::kId));
+  if (mode_ == Mode::kEdit) Text1.SetText(recording.id() + kind_.file_taken);
+  PresetRead(recording.value(Field::kPresetLength));
+  MeasureAudio(recording.id());
   data.first_text().SetFocus();
   if (mode_ == Mode::kImport) AskBeforeImport();
 }

@@ -8,6 +8,7 @@
 // The data file is written before there is any audio: a new recording is listed from that moment, with the
 // length "[New]", and an existing one keeps its audio until the capture overwrites it.
 
+#include <optional>
 #include <string>
 
 #include "station/recording/audition.h"
@@ -80,7 +81,7 @@ class EntryScreen : public Screen {
   void Take(const std::string& id);
   /// The recording becomes the one on the screen; a fault but 53, file not found, has been told.
   RunTimeError ShowRecording(const std::string& id);
-  void ShowExisting(RecordValues& values);
+  void ShowExisting(const Recording& recording);
   void AskBeforeImport();
   void GoToImport(const std::string& id);
 
@@ -100,9 +101,9 @@ class EntryScreen : public Screen {
 
   // writing
   void RecordNow();
-  RecordValues Gathered() const;
-  Status Write(RecordValues& values);
-  void GoToCapture(RecordValues& values);
+  Recording Gathered() const;
+  Status Write(const Recording& recording);
+  void GoToCapture(const std::string& id);
   void EnableFields(bool enabled);
   /// The mode is over, and Restart the way on.
   void TellNotRead(const Status& fault, const std::string& missing, AbnormalFault abnormal);
@@ -110,11 +111,12 @@ class EntryScreen : public Screen {
   void TellNotWritten(const Status& fault, const std::string& id);
 
   const EntryKind& kind_;
-  const RecordLayout& layout_;
+  const std::string letter_{LetterOf(kind_.kind)};
   Mode mode_ = Mode::kNone;
-  bool new_id_ = false;    // the typed id names no recording
-  std::string looked_up_;  // what was typed when the id was last looked up
-  std::string drive_;      // chosen, or the recording's own; empty when neither
+  std::optional<Recording> existing_;  // the one on the screen, as its data file was
+  bool new_id_ = false;                // the typed id names no recording
+  std::string looked_up_;              // what was typed when the id was last looked up
+  std::string drive_;                  // chosen, or the recording's own; empty when neither
 };
 
 /// Spots: how long the capture may take is preset.

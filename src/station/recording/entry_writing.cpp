@@ -1,6 +1,6 @@
 // Record Now on an entry screen: the data file and what the next screen is handed.
 
-#include "station/console/station_paths.h"
+#include "station/library/hand_over_files.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/files.h"
 #include "station/platform/recorder.h"
@@ -29,19 +29,18 @@ void EntryScreen::RecordNow() {
     return;
   }
   EnableFields(false);
-  RecordValues values = Gathered();
-  const std::string id = ValueOf(values, layout_, RecordSlot::kId);
+  const Recording recording = Gathered();
   Text1.SetText("Writing to Disk...");
   Repaint();
-  const Status written = Write(values);
+  const Status written = Write(recording);
   if (!written.ok()) {
-    TellNotWritten(written, id);
+    TellNotWritten(written, recording.id());
   } else if (mode_ == Mode::kImport) {
-    GoToImport(id);
+    GoToImport(recording.id());
   } else if (mode_ == Mode::kEdit) {
     Load();
   } else {
-    GoToCapture(values);
+    GoToCapture(recording.id());
   }
 }
 
@@ -49,23 +48,22 @@ std::string EntryScreen::Drive() const {
   return drive_.empty() ? std::string(1, platform_.capture.drive()) : drive_;
 }
 
-RecordValues EntryScreen::Gathered() const {
-  RecordValues values = data.Typed();
-  if (new_id_) ValueOf(values, layout_, RecordSlot::kId).insert(0, 1, layout_.letter);
-  ValueOf(values, layout_, RecordSlot::kDrive) = Drive();
-  if (layout_.HasPreset()) ValueOf(values, layout_, RecordSlot::kPreset) = Preset();
-  return values;
+Recording EntryScreen::Gathered() const {
+  const std::string id = (new_id_ ? letter_ : std::string()) + data.id().text();
+  Recording recording = existing_ && !new_id_ ? *existing_ : Recording(id, kind_.kind);
+  data.PutInto(recording);
+  recording.Set(Field::kRecordingId, id);
+  recording.Set(Field::kDrive, Drive());
+  recording.Set(Field::kPresetLength, Preset());
+  return recording;
 }
 
-Status EntryScreen::Write(RecordValues& values) {
-  const std::string bytes = FormatFields(values);
-  const std::string path = station_paths::DataFile(ValueOf(values, layout_, RecordSlot::kId));
-  const Status written = platform_.files.Write(path, bytes, Durability::kFlushed);
-  return written.ok() ? WriteHandOverRecord(platform_.files, bytes) : written;
+Status EntryScreen::Write(const Recording& recording) {
+  const Status written = recording.Write(platform_.files);
+  return written.ok() ? WriteHandOver(platform_.files, recording) : written;
 }
 
-void EntryScreen::GoToCapture(RecordValues& values) {
-  const std::string id = ValueOf(values, layout_, RecordSlot::kId);
+void EntryScreen::GoToCapture(const std::string& id) {
   if (const Status written = WriteLastRecording(platform_.files, id); !written.ok()) {
     TellNotWritten(written, id);
     return;

@@ -2,7 +2,6 @@
 
 #include "station/console/settings_files.h"
 #include "station/console/station_paths.h"
-#include "station/console/value_form.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/screens.h"
 
@@ -12,7 +11,6 @@ namespace {
 constexpr const char* kChooseDataFile = "Select the DATA file in which to Import a recording...";
 constexpr const char* kChooseSource =
     "Now, choose the file to import by double clicking or pressing <enter>...";
-constexpr std::size_t kDriveField = 2;
 
 }  // namespace
 
@@ -67,18 +65,16 @@ void ImportWin::ChooseDataFile() {
 
 void ImportWin::Take(const std::string& id) {
   // Only the drive is needed now; but a file that could not be rewritten later is refused before any harm.
-  const Result<std::string> content = platform_.files.Read(station_paths::DataFile(id));
-  const std::size_t count = FieldCount(id);
-  std::vector<std::string> fields;
-  if (content.ok()) fields = ReadValues(content.value(), count);
-  if (count == 0 || fields.size() < count || fields[kDriveField].size() != 1) {
+  Recording recording(id);
+  const Status read = recording.Read(platform_.files);
+  if (!read.ok() || recording.value(Field::kDrive).size() != 1) {
     platform_.dialogs.MessageBox(
         "This is not the data file of a recording, or it is damaged.\nChoose another one.",
         box_style::kOk + box_style::kExclamation, "Cannot Import to " + id + ".DAT");
     return;
   }
   id_ = id;
-  drive_ = fields[kDriveField];
+  drive_ = recording.value(Field::kDrive);
   Label5.SetCaption("File will be imported to " + id_ + ".DAT on Drive " + drive_ + "...");
   source_.GoTo(ReadSetting(platform_.files, station_paths::kImportPath).value_or(std::string()));
   folder_ = Dir1.path();
@@ -125,11 +121,17 @@ void ImportWin::BackToSource() {
 
 void ImportWin::Copied(std::optional<std::string> length) {
   Progress.SetCaption("");
-  // What the copy could not be asked stays as the record has it.
-  if (!length) length = ReadLeadingFields(platform_.files, id_, 1).front();
+  Recording recording(id_);
+  if (!length) {  // what the copy could not be asked stays as the record has it
+    SkipAndGoOn(recording.Read(platform_.files));
+    length = recording.value(Field::kLength);
+  }
   platform_.dialogs.MessageBox("New File Length is: " + *length + " Seconds", box_style::kOk,
                                "Updating Data File");
-  const Status written = RewriteAudioFields(platform_.files, id_, *length, drive_);
+  const Status read = recording.Read(platform_.files);
+  recording.Set(Field::kLength, *length);
+  recording.Set(Field::kDrive, drive_);
+  const Status written = read.ok() ? recording.Write(platform_.files) : read;
   if (!written.ok()) TellFault(written);
   GoBack();
 }

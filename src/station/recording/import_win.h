@@ -3,7 +3,7 @@
 // ImportWin, the screen "Import Recording": an existing .WAV or .MP3 becomes the audio of a data file, chosen
 // here or, through IMPORT.DAT, on the entry screen that sent the operator and takes him back.
 
-#include "station/library/recording_file.h"
+#include "station/library/hand_over_files.h"
 #include "station/recording/import_screen.h"
 
 namespace quixair {

@@ -5,7 +5,7 @@
 
 #include "station/console/station_paths.h"
 #include "station/console/value_form.h"
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 #include "station/platform/civil_time.h"
 #include "station/platform/clock.h"
 #include "station/platform/dialogs.h"
@@ -239,16 +239,16 @@ void ImportWinAuto::Copied(std::optional<std::string> length) {
 }
 
 Status ImportWinAuto::WriteSong(const std::string& id) {
-  const MusicRecord song{.Length = length_,
-                         .RecordingId = id,
-                         .Drive = TargetDrive(),
-                         .Artist = Cut(Text2.text(), kFieldLimit),
-                         .Title = Cut(Text3.text(), kFieldLimit),
-                         .Rotation = "",
-                         .StartDate = MonthDayYear(platform_.clock.Now()),
-                         .FromYear = Cut(Text4.text(), kYearLimit)};
+  Recording song(id);
+  song.Set(Field::kLength, length_);
+  song.Set(Field::kRecordingId, id);
+  song.Set(Field::kDrive, TargetDrive());
+  song.Set(Field::kArtist, Cut(Text2.text(), kFieldLimit));
+  song.Set(Field::kTitle, Cut(Text3.text(), kFieldLimit));
+  song.Set(Field::kStartDate, MonthDayYear(platform_.clock.Now()));
+  song.Set(Field::kFromYear, Cut(Text4.text(), kYearLimit));
   // Not flushed: hundreds of waits for a busy disk would hold up the air, and the source is still there.
-  return platform_.files.Write(station_paths::DataFile(id), FormatRecord(song));
+  return song.Write(platform_.files, Durability::kOrdinary);
 }
 
 void ImportWinAuto::LeaveOut() {

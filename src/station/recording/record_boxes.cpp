@@ -8,7 +8,47 @@
 namespace quixair {
 namespace {
 
+using enum Field;
+
 constexpr int kDatePart = 2;
+constexpr int kTypedId = 5;
+constexpr std::string_view kNoDate = "--";  // of three empty boxes
+
+// The preset length of a spot has controls of its own.
+constexpr FieldBox kSpot[] = {
+    {kLength, "Text4", "Length:", 0},        {kRecordingId, "Text2", "Spot I.D.:", kTypedId},
+    {kDrive, "Text10", "Drive:", 1},         {kAccount, "Text3", "Account:", 15},
+    {kTitle, "Text5", "Title:", 15},         {kStartDate, "Start", "Start:", kDatePart},
+    {kKillDate, "Kill", "Kill:", kDatePart}, {kProduct, "Text8", "Product:", 1},
+    {kAnnouncer, "Text9", "Announcer:", 1}};
+constexpr FieldBox kMusic[] = {{kLength, "Text4", "Length:", 0},
+                               {kRecordingId, "Text2", "Song I.D.:", kTypedId},
+                               {kDrive, "Text10", "Drive:", 1},
+                               {kArtist, "Text3", "Artist:", 20},
+                               {kTitle, "Text5", "Title:", 20},
+                               {kRotation, "Text8", "Rotation:", 1},
+                               {kStartDate, "Start", "Start:", kDatePart},
+                               {kFromYear, "FromYear", "From Year:", 4}};
+constexpr FieldBox kLiner[] = {{kLength, "Text4", "Length:", 0},
+                               {kRecordingId, "Text2", "Liner I.D.:", kTypedId},
+                               {kDrive, "Text10", "Drive:", 1},
+                               {kTitle, "Text3", "Title:", 20},
+                               {kAnnouncer, "Text8", "Announcer:", 1},
+                               {kLinerType, "Text9", "Type:", 1},
+                               {kStartDate, "Start", "Start:", kDatePart},
+                               {kKillDate, "Kill", "Kill:", kDatePart}};
+
+std::span<const FieldBox> FieldsOf(RecordingKind kind) {
+  switch (kind) {
+    case RecordingKind::kSpot:
+      return kSpot;
+    case RecordingKind::kMusic:
+      return kMusic;
+    case RecordingKind::kLiner:
+      break;
+  }
+  return kLiner;
+}
 
 bool IsDigit(char letter) {
   return letter >= '0' && letter <= '9';
@@ -73,58 +113,57 @@ void DateBoxes::Enable(bool enabled) {
   for (TextBox* part : {&month, &day, &year}) part->Enable(enabled);
 }
 
-RecordBoxes::RecordBoxes(Screen& screen, const RecordLayout& layout, TextBox::Use use)
-    : screen_(screen), layout_(layout) {
-  for (const RecordLine& line : layout.lines) {
-    if (line.slot == RecordSlot::kPreset) continue;
-    captions_.emplace_back(screen, std::string("Caption") + line.box, line.caption);
-    if (line.slot == RecordSlot::kStartDate || line.slot == RecordSlot::kKillDate) {
-      DateBoxes& date = dates_.emplace_back(screen, line.box, use);
-      (line.slot == RecordSlot::kStartDate ? start_ : kill_) = &date;
+RecordBoxes::RecordBoxes(Screen& screen, RecordingKind kind, TextBox::Use use)
+    : screen_(screen), fields_(FieldsOf(kind)) {
+  for (const FieldBox& field : fields_) {
+    captions_.emplace_back(screen, std::string("Caption") + field.box, field.caption);
+    if (field.field == kStartDate || field.field == kKillDate) {
+      DateBoxes& date = dates_.emplace_back(screen, field.box, use);
+      (field.field == kStartDate ? start_ : kill_) = &date;
       continue;
     }
-    TextBox& box = boxes_.emplace_back(screen, line.box, use);
-    box.SetMaxLength(line.limit);
-    if (line.slot == RecordSlot::kLength) length_ = &box;
-    if (line.slot == RecordSlot::kId) id_ = &box;
-    if (line.slot == RecordSlot::kDrive) drive_ = &box;
-    if (line.slot == RecordSlot::kYear) year_ = &box;
-    if (line.slot == RecordSlot::kText) texts_.push_back(&box);
+    TextBox& box = boxes_.emplace_back(screen, field.box, use);
+    box.SetMaxLength(field.limit);
+    if (field.field == kLength) {
+      length_ = &box;
+    } else if (field.field == kRecordingId) {
+      id_ = &box;
+    } else if (field.field == kDrive) {
+      drive_ = &box;
+    } else if (field.field == kFromYear) {
+      year_ = &box;
+    } else {
+      texts_.push_back(&box);
+    }
   }
-  first_text_ = texts_.front();
   if (use == TextBox::Use::kEnter) HoldToRules();
 }
 
-void RecordBoxes::Show(const RecordValues& values) {
+void RecordBoxes::Show(const Recording& recording) {
   auto box = boxes_.begin();
-  for (std::size_t i = 0; i < layout_.lines.size(); ++i) {
-    const RecordSlot slot = layout_.lines[i].slot;
-    if (slot == RecordSlot::kPreset) continue;
-    if (slot == RecordSlot::kStartDate) {
-      start_->Show(values[i]);
-    } else if (slot == RecordSlot::kKillDate) {
-      kill_->Show(values[i]);
+  for (const auto& [field, name, caption, limit] : fields_) {
+    if (field == kStartDate) {
+      start_->Show(recording.value(field));
+    } else if (field == kKillDate) {
+      kill_->Show(recording.value(field));
     } else {
-      (box++)->SetText(values[i]);
+      (box++)->SetText(recording.value(field));
     }
   }
 }
 
-RecordValues RecordBoxes::Typed() const {
-  RecordValues values;
+void RecordBoxes::PutInto(Recording& recording) const {
   auto box = boxes_.begin();
-  for (const RecordLine& line : layout_.lines) {
-    if (line.slot == RecordSlot::kPreset) {
-      values.emplace_back();
-    } else if (line.slot == RecordSlot::kStartDate) {
-      values.push_back(start_->Joined());
-    } else if (line.slot == RecordSlot::kKillDate) {
-      values.push_back(KillDateFromEntry(kill_->month.text(), kill_->day.text(), kill_->year.text()));
+  for (const auto& [field, name, caption, limit] : fields_) {
+    if (field == kStartDate) {
+      recording.Set(field, start_->Joined());
+    } else if (field == kKillDate) {
+      const std::string date = kill_->Joined();
+      recording.Set(field, date == kNoDate ? std::string() : date);
     } else {
-      values.push_back((box++)->text());
+      recording.Set(field, (box++)->text());
     }
   }
-  return values;
 }
 
 void RecordBoxes::EnableData(bool enabled) {

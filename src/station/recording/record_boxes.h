@@ -1,15 +1,17 @@
 #pragma once
 
-// The boxes of a recording's data, as a recording screen shows them: one for each line of the data file, three
-// for a date, each with its caption. On an entry screen they also hold to the rules of typing: no double quote
-// reaches a data file, dates and years are digits, and a start date is one that can be. A capture screen only
-// shows them.
+// The recording screens: entry of a recording's data, capture, import, the time announcements. Here are the boxes
+// of a recording's data, as entry and capture show them: one for each field of the kind, three for a date, each
+// with its caption. On an entry screen they also hold to the rules of typing: no double quote reaches a data
+// file, dates and years are digits, and a start date is one that can be. A capture screen only shows them.
 
 #include <deque>
 #include <functional>
+#include <span>
 #include <string>
+#include <vector>
 
-#include "station/recording/record_layout.h"
+#include "station/library/recording.h"
 #include "station/screen/screen.h"
 
 namespace quixair {
@@ -25,21 +27,30 @@ struct DateBoxes {
   void Enable(bool enabled);
 };
 
+/// A field of a recording as a screen shows it.
+struct FieldBox {
+  Field field;
+  const char* box;      // the control that shows it; a date has three, by the endings MM, DD and YY
+  const char* caption;  // before the box
+  int limit;            // of what can be typed
+};
+
 class RecordBoxes {
  public:
-  RecordBoxes(Screen& screen, const RecordLayout& layout, TextBox::Use use);
+  RecordBoxes(Screen& screen, RecordingKind kind, TextBox::Use use);
   RecordBoxes(const RecordBoxes&) = delete;
   RecordBoxes& operator=(const RecordBoxes&) = delete;
 
   TextBox& id() { return *id_; }
+  const TextBox& id() const { return *id_; }
   TextBox& length() { return *length_; }
   TextBox& drive() { return *drive_; }
   /// The first of the data fields, below the id.
-  TextBox& first_text() { return *first_text_; }
+  TextBox& first_text() { return *texts_.front(); }
 
-  void Show(const RecordValues& values);
+  void Show(const Recording& recording);
   /// As typed: the id without its letter, the drive as its box shows it; a kill date without any figure is empty.
-  RecordValues Typed() const;
+  void PutInto(Recording& recording) const;
   /// Id, data fields and dates; length and drive are never typed.
   void EnableId(bool enabled) { id_->Enable(enabled); }
   void EnableData(bool enabled);
@@ -54,7 +65,7 @@ class RecordBoxes {
   void HoldStartDate();
 
   Screen& screen_;
-  const RecordLayout& layout_;
+  std::span<const FieldBox> fields_;
   std::deque<Label> captions_;
   std::deque<TextBox> boxes_;  // one for each line that is no date, in their order
   std::deque<DateBoxes> dates_;
@@ -62,7 +73,6 @@ class RecordBoxes {
   TextBox* id_ = nullptr;
   TextBox* length_ = nullptr;
   TextBox* drive_ = nullptr;
-  TextBox* first_text_ = nullptr;
   TextBox* year_ = nullptr;
   DateBoxes* start_ = nullptr;
   DateBoxes* kill_ = nullptr;

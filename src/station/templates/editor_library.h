@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 
 namespace quixair {
 

@@ -4,7 +4,7 @@
 
 #include "station/console/settings_files.h"
 #include "station/console/station_paths.h"
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/text.h"
 #include "station/templates/build_template1.h"
@@ -12,8 +12,6 @@
 
 namespace quixair {
 namespace {
-
-constexpr std::size_t kTemplateFields = 5;
 
 bool HasDataFile(const TemplateEvent& event) {
   return KindOfEvent(event.EventId) == EventKind::kRecording;
@@ -107,10 +105,11 @@ void TemplateEditor::AddTemplateEvent(const TemplateEvent& event) {
   if (HasDataFile(event)) {
     Files& files = screen_.platform().files;
     if (files.Exists(station_paths::DataFile(event.EventId))) {
-      std::vector<std::string> fields = ReadLeadingFields(files, event.EventId, kTemplateFields);
-      length = std::move(fields[0]);
-      first_label_ = std::move(fields[3]);
-      second_label_ = std::move(fields[4]);
+      Recording recording(event.EventId);
+      SkipAndGoOn(recording.Read(files));
+      length = recording.value(Field::kLength);
+      first_label_ = recording.value(Field::kFirstLabel);
+      second_label_ = recording.value(Field::kSecondLabel);
     } else {
       TellMissingData(event.EventId);
       first_label_ = "EMPTY!";

@@ -6,6 +6,7 @@ namespace quixair {
 namespace {
 
 using As = PrintedColumn::As;
+using enum Field;
 
 constexpr int kNumberTwips = 750;
 
@@ -14,18 +15,17 @@ const LibraryReport kSpots = {
     .pattern = "S*.DAT",
     .singular = "Spot",
     .plural = "Spots",
-    .fields = kSpotFields,
-    .shown = {{"Filename", 1000, 1},
-              {"Account", 1500, 3},
-              {"Title", 1500, 4},
-              {"Length", 900, 0},
-              {"Start Date", 900, 5},
-              {"Kill Date", 1000, 6},
-              {"Prod.", 500, 7},
-              {"Annc.", 500, 8},
-              {"Drive", 500, 2}},
-    .name_field = 3,
-    .title_field = 4,
+    .shown = {{"Filename", 1000, kRecordingId},
+              {"Account", 1500, kAccount},
+              {"Title", 1500, kTitle},
+              {"Length", 900, kLength},
+              {"Start Date", 900, kStartDate},
+              {"Kill Date", 1000, kKillDate},
+              {"Prod.", 500, kProduct},
+              {"Annc.", 500, kAnnouncer},
+              {"Drive", 500, kDrive}},
+    .name_field = kAccount,
+    .title_field = kTitle,
     .title = "Quixair SPOT Listings    -  Created on: ",
     .after_date = "    Page: ",
     .heads = " I.D.      Account         Title             Len.  (Min.)  Start    Kill  P A D ",
@@ -45,17 +45,16 @@ const LibraryReport kMusic = {
     .pattern = "M*.DAT",
     .singular = "Music",
     .plural = "Music",
-    .fields = kMusicFields,
-    .shown = {{"Filename", 1000, 1},
-              {"Artist", 2000, 3},
-              {"Title", 2000, 4},
-              {"Length", 900, 0},
-              {"Start Date", 900, 6},
-              {"From", 600, 7},
-              {"Rotat", 500, 5},
-              {"Drive", 500, 2}},
-    .name_field = 3,
-    .title_field = 4,
+    .shown = {{"Filename", 1000, kRecordingId},
+              {"Artist", 2000, kArtist},
+              {"Title", 2000, kTitle},
+              {"Length", 900, kLength},
+              {"Start Date", 900, kStartDate},
+              {"From", 600, kFromYear},
+              {"Rotat", 500, kRotation},
+              {"Drive", 500, kDrive}},
+    .name_field = kArtist,
+    .title_field = kTitle,
     .title = "  The Quixair MUSIC Listings     -  Created on: ",
     .after_date = "    Page: ",
     .heads = "     I.D.         Artist            Title        Len.   (Min.)   Start  From  Dr",
@@ -73,17 +72,16 @@ const LibraryReport kLiners = {
     .pattern = "L*.DAT",
     .singular = "Liner",
     .plural = "Liners",
-    .fields = kLinerFields,
-    .shown = {{"Filename", 1000, 1},
-              {"Title", 2000, 3},
-              {"Announcer", 1000, 4},
-              {"Type", 500, 5},
-              {"Length", 900, 0},
-              {"Start Date", 900, 6},
-              {"Kill Date", 1000, 7},
-              {"Drive", 500, 2}},
-    .name_field = 4,
-    .title_field = 3,
+    .shown = {{"Filename", 1000, kRecordingId},
+              {"Title", 2000, kTitle},
+              {"Announcer", 1000, kAnnouncer},
+              {"Type", 500, kLinerType},
+              {"Length", 900, kLength},
+              {"Start Date", 900, kStartDate},
+              {"Kill Date", 1000, kKillDate},
+              {"Drive", 500, kDrive}},
+    .name_field = kAnnouncer,
+    .title_field = kTitle,
     .title = "  The Quixair LINER Listings     -  Created: ",
     .after_date = "   Page: ",
     .heads = "     I.D.    Description      Anc Typ Len.  (Min.)    Start      Kill    Dr",
@@ -138,13 +136,11 @@ std::vector<GridColumn> GridColumnsOf(const LibraryReport& report) {
 GridRow LibraryRow(const LibraryReport& report, Files& files, const std::string& id) {
   GridRow row(kGridColumns);
   row[kFileNameKey] = id;
-  const Result<std::vector<std::string>> read = ReadRecordFields(files, id, report.fields);
-  SkipAndGoOn(read);
-  if (!read.ok()) return row;
-  const std::vector<std::string>& fields = read.value();
-  for (std::size_t i = 0; i < report.shown.size(); ++i) row[i + 1] = fields[report.shown[i].field];
-  row[kNameKey] = fields[report.name_field];
-  row[kTitleKey] = fields[report.title_field];
+  Recording recording(id);
+  if (!recording.Read(files).ok()) return row;
+  for (std::size_t i = 0; i < report.shown.size(); ++i) row[i + 1] = recording.value(report.shown[i].field);
+  row[kNameKey] = recording.value(report.name_field);
+  row[kTitleKey] = recording.value(report.title_field);
   return row;
 }
 

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 #include "station/platform/files.h"
 #include "station/screen/grid.h"
 #include "station/utilities/report_pages.h"
@@ -31,15 +31,14 @@ struct PrintedColumn {
 struct LibraryReport {
   RecordingKind kind;
   const char *pattern, *singular, *plural;  // "S*.DAT", "Spot", "Spots"
-  std::size_t fields;                       // of the data file
   /// Shown from the grid's column 1 on.
   struct Shown {
     const char* head;
     int twips;
-    std::size_t field;
+    Field field;
   };
   std::vector<Shown> shown;
-  std::size_t name_field, title_field;  // of the sort keys
+  Field name_field, title_field;  // of the sort keys
   const char *title, *after_date, *heads;
   std::vector<PrintedColumn> printed;
 };

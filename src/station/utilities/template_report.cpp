@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 #include "station/platform/text.h"
 
 namespace quixair {
@@ -12,7 +12,6 @@ constexpr std::string_view kLocalBreakMark = "****LOCAL BREAK***";
 constexpr std::size_t kRuleWidth = 74;
 constexpr std::size_t kListedId = 7;
 constexpr std::size_t kListedLabel = 8;
-constexpr std::size_t kFieldsRead = 5;
 constexpr int kIdTab = 7;
 constexpr int kLabelTab = 14;
 const std::vector<ReportColumn> kColumns = {
@@ -54,13 +53,12 @@ ReportedEvent ReadReportedEvent(Files& files, const TemplateEvent& event) {
   ReportedEvent reported{
       .id = event.EventId, .first_label = event.EventTitle, .minutes = {}, .length = {}, .second_label = {}};
   if (!HasDataFile(event)) return reported;
-  const Result<std::vector<std::string>> fields = ReadRecordFields(files, event.EventId, kFieldsRead);
-  SkipAndGoOn(fields);
-  if (!fields.ok()) return reported;
-  reported.length = fields.value()[0];
+  Recording recording(event.EventId);
+  if (!recording.ReadTo(Field::kSecondLabel, files).ok()) return reported;
+  reported.length = recording.value(Field::kLength);
   reported.minutes = MinutesText(reported.length);
-  reported.first_label = fields.value()[3];
-  reported.second_label = fields.value()[4];
+  reported.first_label = recording.value(Field::kFirstLabel);
+  reported.second_label = recording.value(Field::kSecondLabel);
   return reported;
 }
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "station/library/recording_file.h"
+#include "station/library/recording.h"
 #include "support/station_fixture.h"
 
 namespace quixair::testing {

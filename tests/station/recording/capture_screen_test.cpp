@@ -88,6 +88,21 @@ TEST_F(CaptureScreens, StopByHand_WritesTheMeasuredLengthAndTheEmptyLines) {
   }
 }
 
+TEST_F(CaptureScreens, RecordingTakenAnew_KeepsWhatStandsBehindItsLines) {
+  const std::vector<std::string> known = {"8.0", "M5", "C", "Artist", "Title of M5", "A", "01-01-26", "2026"};
+  AddSong("M5", 30000);
+  PutFile("QXDATA/M5.DAT", FileText("QXDATA/M5.DAT") + Lines({"further"}));
+  for (int times = 0; times < 2; ++times) {
+    OpenEntry("RecordASong");
+    DoubleClick("RecordASong", "File1", "M5.DAT");
+    Click("RecordASong", "Command9");
+    Click(kSong, "RecordBtn");
+    Advance(8s);
+    Click(kSong, "StopBtn");
+    EXPECT_EQ(FileText("QXDATA/M5.DAT"), Lines(known) + Lines({"further"}) + "\r\n\r\n");
+  }
+}
+
 TEST_F(CaptureScreens, RecordAgain_OverwritesAndExitGoesBack) {
   HandOver("RecordASong", "5");
   for (const int seconds : {30, 12}) {

@@ -1,4 +1,4 @@
-#include "station/library/recording_file.h"
+#include "station/library/hand_over_files.h"
 #include "station/recording/import_fixture.h"
 
 namespace quixair::testing {
@@ -34,6 +34,7 @@ class ImportWinTest : public ImportFixture {
 TEST_F(ImportWinTest, EachKind_GetsTheAudioTheLengthAndKeepsItsOtherFields) {
   AddSpot("S100", 30000, "P", "01-01-26", "12-31-26");
   AddSong("M0100", 30000);
+  PutFile("QXDATA/M0100.DAT", FileText("QXDATA/M0100.DAT") + Lines({"further"}));
   AddLiner("LL100", 30000);
   PutSource("BIG.Mp3", 61250);
   for (const char* id : {"S100", "M0100", "LL100"}) {

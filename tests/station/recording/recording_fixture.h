@@ -4,7 +4,6 @@
 
 #include <gmock/gmock.h>
 
-#include "station/library/recording_file.h"
 #include "station/screen/recorder_control.h"
 #include "support/station_fixture.h"
 
@@ -37,8 +36,6 @@ class RecordingFixture : public StationFixture {
   bool Exists(std::string_view path) const { return std::filesystem::exists(Host(path)); }
   /// From here on the file cannot be written: a folder of its name stands in its place.
   void Block(std::string_view path) { std::filesystem::create_directories(Host(path)); }
-  /// A text a line, as the station writes them.
-  static std::string Lines(const std::vector<std::string>& values) { return FormatFields(values); }
 
   void OpenEntry(std::string_view screen) {
     StartConsole();
