@@ -9,12 +9,13 @@
 #include <string>
 
 #include "station/console/logs.h"
+#include "station/onair/deck.h"
 #include "station/platform/clock.h"
 #include "station/platform/files.h"
 
 namespace quixair {
 
-class AirFaultLog {
+class AirFaultLog final : public DeckObserver {
  public:
   static constexpr int kLinesPerOutage = 50;
   static constexpr double kSecondsBetweenLines = 60;
@@ -23,8 +24,8 @@ class AirFaultLog {
   AirFaultLog(Files& files, const Clock& clock, ModeLetter mode, std::function<void(std::string)> add_row)
       : files_(files), clock_(clock), mode_(mode), add_row_(std::move(add_row)) {}
 
-  /// An item sounds: the next fault is news again.
-  void ItemSounds() { lines_ = 0; }
+  /// The next fault is news again.
+  void ItemBegan(int /*channel*/, const AirItem& /*item*/) override { lines_ = 0; }
   /// `row` on the list and, behind the mode, date and time, `logged` in the error log. A log that cannot be
   /// written does not hold up the air.
   void Add(const std::string& row, const std::string& logged);

@@ -6,18 +6,6 @@
 #include "station/screen/screen.h"
 
 namespace quixair {
-namespace {
-
-constexpr std::size_t kIdInPath = 10;  // behind "X:\\QXWAVE\\"
-
-bool SongBegan(const MediaControl& channel, int milliseconds) {
-  const std::string& path = channel.file_name();
-  return path.size() > kIdInPath && UpperCased(path[kIdInPath]) == 'M' &&
-         channel.Mode() == ChannelMode::kPlaying && channel.Position() < milliseconds;
-}
-
-}  // namespace
-
 ChannelBank::ChannelBank(Screen& owner)
     : MMControl1(owner, "MMControl1", 1),
       MMControl2(owner, "MMControl2", 2),
@@ -62,26 +50,6 @@ void ChannelBank::RewindAll() {
     channel->Command(ChannelCommand::kPrev);
 }
 
-void ChannelBank::CloseAll() {
-  for (MediaControl* channel : {&MMControl1, &MMControl2, &MMControl3})
-    channel->Command(ChannelCommand::kClose);
-}
-
-void ChannelBank::SweepEnded() {
-  for (MediaControl* channel : {&MMControl1, &MMControl2}) {
-    const bool at_its_end = channel->Mode() == ChannelMode::kStopped && channel->Position() != 0;
-    if (at_its_end) channel->Command(ChannelCommand::kClose);
-  }
-}
-
-bool ChannelBank::AnythingSounds() const {
-  return MMControl1.Mode() == ChannelMode::kPlaying || MMControl2.Mode() == ChannelMode::kPlaying;
-}
-
-bool ChannelBank::TwoSongsBegan(int milliseconds) const {
-  return SongBegan(MMControl1, milliseconds) && SongBegan(MMControl2, milliseconds);
-}
-
 void ChannelBank::UpdateLabels() {
   for (int number = 1; number <= 4; ++number) {
     Label& label = Label6[static_cast<std::size_t>(number - 1)];
@@ -101,12 +69,6 @@ void ChannelBank::ConnectBars(const std::function<bool()>& play_allowed,
       if (allowed()) do_continue();
     };
   }
-}
-
-int OpenFile(MediaControl& channel, const std::string& path) {
-  channel.SetFileName(path);
-  channel.Command(ChannelCommand::kOpen);
-  return channel.Length();
 }
 
 }  // namespace quixair

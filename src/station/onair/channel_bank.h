@@ -27,15 +27,6 @@ class ChannelBank {
   void PauseAll();   // those of 1, 2, 3 that play
   void ResumeAll();  // those of 1, 2, 3 that are paused
   void RewindAll();
-  void CloseAll();
-  /// Closes channel 1 or 2 when its file has ended and nothing else took notice: it frees the channel whose item
-  /// ended while the other one had taken over.
-  void SweepEnded();
-  /// Channel 1 or 2 plays.
-  bool AnythingSounds() const;
-  /// Both channels play songs, each of them no further than `milliseconds`: the only sign of two that were
-  /// started over each other.
-  bool TwoSongsBegan(int milliseconds) const;
   /// A playing channel reads "Open", one that is not open "Closed"; any other keeps its label.
   void UpdateLabels();
 
@@ -45,8 +36,5 @@ class ChannelBank {
                    const std::function<bool()>& play_allowed_on_idle,
                    const std::function<void()>& do_continue);
 };
-
-/// Sets the file, opens it and gives its length in milliseconds, 0 when it cannot be played.
-int OpenFile(MediaControl& channel, const std::string& path);
 
 }  // namespace quixair

@@ -9,7 +9,6 @@
 
 namespace quixair {
 
-class ChannelBank;
 class MediaControl;
 
 enum class AirState {
@@ -47,16 +46,6 @@ struct OnAirStatus {
   double elapsed_seconds = 0;  // of the item on the air, pauses not counted
   double length_seconds = 0;   // 0 when nothing is open
 };
-
-/// What a playback mode knows of its run.
-struct RunFlags {
-  bool running = false;
-  bool live_now = false;
-  bool paused = false;
-  int active_channel = 1;
-};
-/// The status as the channels and the run give it.
-OnAirStatus StatusOf(const ChannelBank& channels, const RunFlags& flags);
 
 class OnAirScreen {
  public:

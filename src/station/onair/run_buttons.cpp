@@ -1,22 +1,18 @@
 #include "station/onair/run_buttons.h"
 
-#include <string>
-
 #include "station/screen/screen.h"
 
 namespace quixair {
 
-RunButtons::RunButtons(Screen& owner, TextBox& status)
+RunButtons::RunButtons(Screen& owner)
     : PauseCommand(owner, "PauseCommand", "&Pause"),
       ContinueCommand(owner, "ContinueCommand", "&Continue"),
       BeginNextCommand(owner, "BeginNextCommand", "&Begin Next"),
       RequeueCommand(owner, "RequeueCommand", "   Re-&Queue           Current"),
       EndRunCommand(owner, "EndRunCommand", "&End Run"),
-      GoLive(owner, "GoLive", "Go &Live Next"),
-      status_(status) {
+      GoLive(owner, "GoLive", "Go &Live Next") {
   HideBeforeRun();
   GoLive.Hide();
-  status_.SetBackColor(kPaleGreen);
 }
 
 void RunButtons::HideBeforeRun() {
@@ -43,19 +39,14 @@ void RunButtons::ShowResumed() {
 }
 
 void RunButtons::ShowLiveAsked() {
-  status_.SetBackColor(kYellow);
-  status_.SetText(std::string(36, ' ') + "Going Live After Current Selection Ends");
   GoLive.SetCaption("Cancel &Live");
 }
 
 void RunButtons::ShowLiveTakenBack() {
   GoLive.SetCaption("Go &Live Next");
-  status_.SetBackColor(kPaleGreen);
-  status_.SetText(std::string(61, ' ') + "Live Cancelled!");
 }
 
 void RunButtons::ShowLiveNow() {
-  status_.SetText("AUDIO PAUSED FOR LIVE BREAK ! - Press <CONTINUE> to Resume");
   GoLive.SetCaption("LIVE NOW!");
   GoLive.Disable();
   PauseCommand.Disable();
@@ -65,7 +56,6 @@ void RunButtons::ShowLiveNow() {
 
 void RunButtons::ShowLiveOver() {
   for (Button* button : {&PauseCommand, &RequeueCommand, &BeginNextCommand, &GoLive}) button->Enable();
-  status_.SetBackColor(kPaleGreen);
   GoLive.SetCaption("Go &Live Next");
 }
 

@@ -9,8 +9,7 @@ namespace quixair {
 
 class RunButtons {
  public:
-  /// `status` is the screen's status line.
-  RunButtons(Screen& owner, TextBox& status);
+  explicit RunButtons(Screen& owner);
 
   Button PauseCommand;
   Button ContinueCommand;
@@ -25,14 +24,10 @@ class RunButtons {
 
   void ShowPaused();
   void ShowResumed();
-  /// A live break is asked for: it begins when the item on the air has ended.
   void ShowLiveAsked();
   void ShowLiveTakenBack();
   void ShowLiveNow();
   void ShowLiveOver();
-
- private:
-  TextBox& status_;
 };
 
 }  // namespace quixair

@@ -9,7 +9,7 @@
 #include "station/console/station_paths.h"
 #include "station/picklist/pick_list_engine.h"
 #include "station/picklist/pick_list_form1.h"
-#include "station/picklist/pick_list_playback.h"
+#include "station/picklist/pick_list_run.h"
 #include "station/platform/text.h"
 
 namespace quixair {
@@ -27,20 +27,19 @@ std::string NextDay(std::string_view template_name) {
 }  // namespace
 
 bool PickListEngine::ChangeDay() {
-  PickListState& state = context_.state;
+  PickListRun& run = context_.run;
   if (!FindNextDay()) {
     LeaveStep();
     return false;
   }
-  state.CurrentEvent = 1;
-  state.ProgramTimeNow = 0;
-  state.ProgramTimeSum = 0;
-  state.BeganNext = 0;
-  state.FirstEvent = 0;
-  state.NextDayLoad = 1;
-  state.RepeatOn = 0;
-  state.ScreenActivated = 0;
-  SkipAndGoOn(WriteDayChangeRecord(context_.platform.files, state.TemplateName, state.CurrentEvent));
+  run.CurrentEvent = 1;
+  run.ProgramTimeNow = 0;
+  run.ProgramTimeSum = 0;
+  run.FirstEvent = 0;
+  run.NextDayLoad = true;
+  run.RepeatOn = false;
+  run.ScreenActivated = false;
+  SkipAndGoOn(WriteDayChangeRecord(context_.platform.files, run.TemplateName, run.CurrentEvent));
   // Starts the new day's list from within; the step that called then plays its first event once more.
   if (activate()) return true;
   TellNotFound();
@@ -50,17 +49,17 @@ bool PickListEngine::ChangeDay() {
 
 /// No blank before the name in the log: the engineer's eye knows the line by it.
 void PickListEngine::TellNotFound() {
-  const std::string text = context_.state.TemplateName + " Not Found!";
-  context_.faults.Add(text, text);
+  const std::string text = context_.run.TemplateName + " Not Found!";
+  context_.air.faults.Add(text, text);
 }
 
 bool PickListEngine::FindNextDay() {
   Files& files = context_.platform.files;
-  PickListState& state = context_.state;
+  PickListRun& run = context_.run;
   for (std::size_t day = 0; day < kDays.size(); ++day) {
-    state.TemplateName = NextDay(state.TemplateName);
-    SkipAndGoOn(WriteTextSetting(files, station_paths::kStorePik, state.TemplateName));
-    if (files.Exists(station_paths::TemplateFile(state.TemplateName))) return true;
+    run.TemplateName = NextDay(run.TemplateName);
+    SkipAndGoOn(WriteTextSetting(files, station_paths::kStorePik, run.TemplateName));
+    if (files.Exists(station_paths::TemplateFile(run.TemplateName))) return true;
     TellNotFound();
   }
   return false;

@@ -1,14 +1,14 @@
 #include "station/picklist/pick_list_controls.h"
 
 #include <array>
-#include <chrono>
 #include <string>
 
 #include "station/console/settings_files.h"
 #include "station/console/station_paths.h"
 #include "station/picklist/lineup_totals.h"
+#include "station/picklist/pick_list_engine.h"
 #include "station/picklist/pick_list_form1.h"
-#include "station/picklist/pick_list_playback.h"
+#include "station/picklist/pick_list_run.h"
 #include "station/platform/civil_time.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/text.h"
@@ -16,14 +16,12 @@
 namespace quixair {
 
 void PickListControls::Start() {
-  PickListState& state = context_.state;
-  if (state.BeganNext == 1) engine_.PlayNextEvent();
-  context_.screen.Channels.Arm();
-  ShowRunControls();
+  PickListRun& run = context_.run;
+  context_.air.BeginRun();
+  ShowTotals();
   ShowLineup();
-  state.running = true;
-  state.ProgramTimeNow = 0;
-  state.ProgramTimeSum = 0;
+  run.ProgramTimeNow = 0;
+  run.ProgramTimeSum = 0;
   ListBox& list = context_.screen.List3;
   context_.screen.Text2.Show();
   list.Show();
@@ -31,20 +29,15 @@ void PickListControls::Start() {
   for (int number = 1; number <= context_.events.EventCount(); ++number) {
     list.AddRow(EventRow(number, context_.events.event(number)));
   }
-  if (state.FirstEvent == 0) state.FirstEvent = 1;
-  state.CurrentEvent = state.FirstEvent;
+  if (run.FirstEvent == 0) run.FirstEvent = 1;
+  run.CurrentEvent = run.FirstEvent;
   engine_.PlayNextEvent();
-  if (!state.run_over) engine_.ArmTimers();
+  if (!run.run_over)
+    context_.air.ArmTimers();  // a list may begin with an announcement, whose step ends early
 }
 
-void PickListControls::ShowRunControls() {
+void PickListControls::ShowTotals() {
   PickListForm1& screen = context_.screen;
-  const std::array<Control*, 7> hidden = {&screen.Start,        &screen.Command2, &screen.List1,
-                                          &screen.Overlap.save, &screen.Label1,   &screen.Label2,
-                                          &screen.Command4};
-  for (Control* control : hidden) control->Hide();
-  screen.Overlap.List2.Disable();
-  screen.Run.ShowForRun();
   for (Control* control : std::array<Control*, 3>{&screen.EventLbl, &screen.Remaining, &screen.Lineup}) {
     control->Show();
   }
@@ -55,91 +48,51 @@ void PickListControls::ShowRunControls() {
 }
 
 void PickListControls::ShowLineup() {
-  const auto texts = LineupTexts(context_.state.TotalSeconds);
+  const auto texts = LineupTexts(context_.run.TotalSeconds);
   context_.screen.TotalLineup[0].SetCaption(texts[0]);
   context_.screen.TotalLineup[1].SetCaption(texts[1]);
   context_.screen.TotalLineup[2].SetCaption("");
 }
 
-void PickListControls::StartWhenDue() {
-  PickListForm1& screen = context_.screen;
-  if (!screen.StartTime.IsDue(HourMinuteAmPm(context_.platform.clock.Now()))) return;
-  screen.Timer1.SetInterval(std::chrono::milliseconds(0));
-  screen.Timer1.SetEnabled(false);
-  if (!context_.state.running) Start();
-}
-
 void PickListControls::Pause() {
-  PickListState& state = context_.state;
-  if (state.AudioPaused != 0) return;
-  state.PauseStartedAt = state.TickTimer;
-  context_.screen.Text1.SetText(context_.current_id() +
-                                "  AUDIO PAUSED...  Click Continue or ALT+C to Resume ");
-  state.AudioPaused = 1;
-  context_.screen.Channels.PauseAll();
-  context_.screen.Run.ShowPaused();
-}
-
-void PickListControls::ResumeClock() {
-  PickListState& state = context_.state;
-  if (state.RequeuePending == 1) {
-    state.ItemStartTimer = context_.platform.clock.Steady();
-    state.RequeuePending = 0;
-    return;
-  }
-  state.ItemStartTimer += state.TickTimer - state.PauseStartedAt;
+  context_.air.Pause(context_.current_id() + status_text::kPaused);
 }
 
 void PickListControls::Continue() {
-  PickListState& state = context_.state;
-  PickListForm1& screen = context_.screen;
-  if (context_.current_id().starts_with(">P")) state.OverlapActive = 0;
-  if (state.AudioPaused == 1) {
-    if (!state.live_now) ResumeClock();
-    screen.Channels.ResumeAll();
-    screen.Text1.SetText(PickListPlaybackText());
-    state.AudioPaused = 0;
-    screen.Run.ShowResumed();
+  Deck& deck = context_.air.deck;
+  if (context_.current_id().starts_with(">P")) deck.OverlapActive = false;
+  if (deck.AudioPaused()) {
+    deck.GoOn();
+    context_.air.status.Tell(PickListPlaybackText());
+    context_.screen.Run.ShowResumed();
   }
-  if (state.live_now) EndLiveBreak();
-}
-
-/// A request that has not taken effect yet outlives a pause.
-void PickListControls::EndLiveBreak() {
-  PickListState& state = context_.state;
-  state.LiveRequested = 0;
-  state.live_now = false;
-  state.AudioPaused = 0;
-  context_.screen.Run.ShowLiveOver();
-  engine_.PlayNextEvent();
+  if (context_.air.EndLiveBreak()) engine_.PlayNextEvent();
 }
 
 /// A skipped item counts with its whole length, as if it had played.
 void PickListControls::SkipChannel(int number) {
-  PickListState& state = context_.state;
-  MediaControl& channel = context_.screen.Channels.channel(number);
-  if (channel.Mode() == ChannelMode::kNotOpen) return;
-  state.ElapsedSecs = channel.Length() / 1000.0;
-  if (number < 3) {
-    state.ProgramTimeNow = state.ProgramTimeSum + state.ElapsedSecs;
-    state.ProgramTimeSum = state.ProgramTimeNow;
-  }
-  channel.Command(ChannelCommand::kClose);
+  PickListRun& run = context_.run;
+  Deck& deck = context_.air.deck;
+  if (deck.closed(number)) return;
+  run.ElapsedSecs = deck.length(number);
+  run.ProgramTimeNow = run.ProgramTimeSum + run.ElapsedSecs;
+  run.ProgramTimeSum = run.ProgramTimeNow;
+  deck.End(number, EndCause::kSkipped);
 }
 
 void PickListControls::BeginNext() {
-  PickListState& state = context_.state;
+  PickListRun& run = context_.run;
   PickListForm1& screen = context_.screen;
-  const bool live_over = state.live_now;
-  if (state.AudioPaused == 1 && state.LiveRequested != 1) Continue();
-  state.SkipSumming = 1;
-  for (int number = 1; number <= 3; ++number) SkipChannel(number);
-  state.OverlapActive = 0;
-  if (state.LiveRequested != 1) ++state.CurrentEvent;
-  state.BeganNext = 1;
+  Deck& deck = context_.air.deck;
+  const bool live_over = deck.live.on();
+  if (deck.AudioPaused() && !deck.live.LiveRequested()) Continue();
+  run.SkipSumming = true;
+  for (const int number : {1, 2}) SkipChannel(number);
+  deck.OverlapActive = false;
+  if (!deck.live.LiveRequested()) ++run.CurrentEvent;
   screen.Run.RequeueCommand.Enable();
   screen.Run.BeginNextCommand.Enable();
-  if (screen.Switches.pause_after_next()) state.PauseNextPending = 1;
+  if (screen.Switches.pause_after_next()) context_.air.PauseNextPending = true;
   // A break that is asked for comes at once, before the event in turn; one that is on is over.
   if (live_over) {
     Continue();
@@ -149,37 +102,26 @@ void PickListControls::BeginNext() {
 }
 
 void PickListControls::Requeue() {
-  context_.screen.Channels.RewindAll();
-  context_.state.RequeuePending = 1;
+  context_.air.deck.Rewind();
   Pause();
 }
 
-void PickListControls::GoLive() {
-  PickListState& state = context_.state;
-  state.LiveRequested = state.LiveRequested == 0 ? 1 : 0;
-  if (state.LiveRequested == 1) {
-    context_.screen.Run.ShowLiveAsked();
-  } else {
-    context_.screen.Run.ShowLiveTakenBack();
-  }
-}
-
 void PickListControls::EndRun() {
-  if (context_.state.run_over) return;
+  if (context_.run.run_over) return;
   SkipAndGoOn(WriteTextSetting(context_.platform.files, station_paths::kStartTime, ""));
-  context_.screen.Text1.SetText("Quitting on Event #: " + std::to_string(context_.state.CurrentEvent));
-  context_.screen.Channels.CloseAll();
+  context_.air.status.Tell("Quitting on Event #: " + std::to_string(context_.run.CurrentEvent));
+  context_.air.deck.EndRun(EndCause::kOperator);
   engine_.EndOfRun();
 }
 
 void PickListControls::Quit() {
-  context_.state.PikModeValue.clear();
+  context_.run.PikModeValue.clear();
   engine_.EndOfRun();
 }
 
 void PickListControls::ChooseFirstEvent() {
   const std::string row = context_.screen.List1.selected_text();
-  context_.state.FirstEvent = WholeValue(std::string_view(row).substr(0, 4));
+  context_.run.FirstEvent = WholeValue(std::string_view(row).substr(0, 4));
   context_.screen.Label1.SetCaption("Set First Event: (" + row + ')');
 }
 
@@ -188,11 +130,6 @@ void PickListControls::TellAboutRemaining() {
       "The time remaining feature will not be\nexact when overlap is turned on, due to\n"
       "variances in the overlap timing.",
       box_style::kInformation, "Time Remaining");
-}
-
-bool PickListControls::BarMayContinue(bool looks_at_pause) const {
-  const PickListState& state = context_.state;
-  return state.LiveRequested != 1 && state.RequeuePending != 1 && (!looks_at_pause || state.AudioPaused != 1);
 }
 
 }  // namespace quixair

@@ -11,7 +11,7 @@
 #include "station/library/recording.h"
 #include "station/picklist/lineup_totals.h"
 #include "station/picklist/pick_list_form1.h"
-#include "station/picklist/pick_list_playback.h"
+#include "station/picklist/pick_list_run.h"
 #include "station/platform/civil_time.h"
 #include "station/platform/text.h"
 #include "station/templates/template_file.h"
@@ -19,8 +19,6 @@
 namespace quixair {
 namespace {
 
-constexpr std::chrono::milliseconds kChannelPollTick{190};  // Random polls at 210
-constexpr std::chrono::milliseconds kOverlapTick{1000};
 constexpr int kMostExpiredSkips = 150;
 constexpr double kSecondsBetweenRounds = 30;  // of a repeated list in which nothing may play
 
@@ -41,7 +39,7 @@ void Show(std::array<Label, 3>& labels, const Rows& rows) {
 }  // namespace
 
 void PickListEngine::PlayNextEvent() {
-  if (context_.state.run_over) return;
+  if (context_.run.run_over) return;
   if (depth_ >= kMaxNestedSteps) {
     LeaveStep();
     return;
@@ -53,7 +51,7 @@ void PickListEngine::PlayNextEvent() {
 }
 
 void PickListEngine::GoOnWhereLeft() {
-  if (!step_left_ || SecondsBetween(left_at_, context_.state.TickTimer) < go_on_after_) return;
+  if (!step_left_ || SecondsBetween(left_at_, context_.platform.clock.Steady()) < go_on_after_) return;
   step_left_ = false;
   PlayNextEvent();
 }
@@ -65,102 +63,96 @@ void PickListEngine::LeaveStep(double seconds) {
 }
 
 void PickListEngine::Step() {
-  PickListState& state = context_.state;
+  PickListRun& run = context_.run;
   AddUpTime();
   if (!PassListEnd()) return;
-  if (state.LiveRequested == 1) {
-    HoldForLive();
+  if (context_.air.deck.live.LiveRequested()) {
+    context_.air.HoldForLive();
+    if (run.CurrentEvent > 1) ShowLast();
     return;
   }
   ShowLabels();
   WriteRecord();
   CheckSpot();
-  if (state.run_over || step_left_) return;  // what was refused is not the outer step's to play
-  state.ExpiredSkipCount = 0;
-  if (IsPauseEvent(context_.current_id())) HoldAtPause();
+  if (run.run_over || step_left_) return;  // what was refused is not the outer step's to play
+  run.ExpiredSkipCount = 0;
+  if (IsPauseEvent(context_.current_id())) {
+    // Nothing is closed: a channel that plays goes on to its end.
+    context_.air.status.Tell(status_text::kPauseEvent);
+    context_.air.deck.HoldFor(Hold::kPauseEvent);
+  }
   if (IsTimeEvent(context_.current_id()) && AnnounceTime()) return;
-  if (state.run_over || !StartItem() || state.run_over) return;
-  Verify();
-  FinishStep();
+  if (run.run_over) return;
+  const Started started = StartItem();
+  if (started == Started::kStepEnds || run.run_over) return;
+  if (started == Started::kNothing) ProveAgain();
+  context_.air.EndStep();
 }
 
 void PickListEngine::AddUpTime() {
-  PickListState& state = context_.state;
-  if (state.SkipSumming != 1 && state.CurrentEvent > 1) state.ProgramTimeSum += state.ElapsedSecs;
+  PickListRun& run = context_.run;
+  if (!run.SkipSumming && run.CurrentEvent > 1) run.ProgramTimeSum += run.ElapsedSecs;
 }
 
 /// False when the step has nothing more to do: the run is over, or the next day's template is yet to be found.
 bool PickListEngine::PassListEnd() {
-  PickListState& state = context_.state;
-  if (state.CurrentEvent <= context_.events.EventCount()) return true;
-  if (state.RepeatOn == 1) {
-    state.CurrentEvent = 1;
-    state.ProgramTimeNow = 0;
-    state.TotalSeconds = state.TotalAtLoad;
-    state.ProgramTimeSum = 0;
+  PickListRun& run = context_.run;
+  if (run.CurrentEvent <= context_.events.EventCount()) return true;
+  if (run.RepeatOn) {
+    run.CurrentEvent = 1;
+    run.ProgramTimeNow = 0;
+    run.TotalSeconds = run.TotalAtLoad;
+    run.ProgramTimeSum = 0;
     return true;
   }
-  if (KindOfTemplate(state.TemplateName) == TemplateKind::kPickDaily && !ChangeDay()) return false;
-  if (state.run_over) return false;
-  context_.screen.Channels.CloseAll();
-  if (state.PikModeValue == "4" || state.NextDayLoad != 1) {
+  if (KindOfTemplate(run.TemplateName) == TemplateKind::kPickDaily && !ChangeDay()) return false;
+  if (run.run_over) return false;
+  context_.air.deck.EndAll(EndCause::kHandOver);
+  if (run.PikModeValue == "4" || !run.NextDayLoad) {
     EndOfRun();
     return false;
   }
-  state.NextDayLoad = 0;
+  run.NextDayLoad = false;
   return true;
 }
 
 void PickListEngine::EndOfRun() {
-  PickListState& state = context_.state;
+  PickListRun& run = context_.run;
   Files& files = context_.platform.files;
   OrEndProgram(WriteTextSetting(files, station_paths::kPickList, ""));
   OrEndProgram(WriteTextSetting(files, station_paths::kStorePik, ""));
   context_.screen.List3.Clear();
-  if (state.PikModeValue == "4") context_.platform.screens.Open("BuildTemplate1");
-  state.TotalSeconds = 0;
-  state.TotalAtLoad = 0;
+  if (run.PikModeValue == "4") context_.platform.screens.Open("BuildTemplate1");
+  run.TotalSeconds = 0;
+  run.TotalAtLoad = 0;
   context_.screen.Hide();
-  state.ScreenActivated = 0;
-  state.running = false;
-  state.run_over = true;
+  run.ScreenActivated = false;
+  context_.air.deck.EndRun(EndCause::kOperator);
+  run.run_over = true;
   OrEndProgram(WriteCleanExitRecord(files));
   context_.platform.screens.Unload(context_.screen);
 }
 
-void PickListEngine::HoldForLive() {
-  PickListForm1& screen = context_.screen;
-  PickListState& state = context_.state;
-  screen.Run.ShowLiveNow();
-  state.AudioPaused = 1;
-  state.live_now = true;
-  state.ItemStartTimer = context_.platform.clock.Steady();
-  screen.CurrLabel[0].SetCaption(" LIVE !");
-  screen.CurrLabel[1].SetCaption(" ");
-  screen.CurrLabel[2].SetCaption(" ");
-  if (state.CurrentEvent > 1) ShowLast();
-}
-
 void PickListEngine::ShowLabels() {
   PickListForm1& screen = context_.screen;
-  const PickListState& state = context_.state;
-  const PickListEvent& event = context_.events.event(state.CurrentEvent);
-  screen.EventLbl.SetCaption("Event #: " + std::to_string(state.CurrentEvent) + " out of " +
+  const PickListRun& run = context_.run;
+  const PickListEvent& event = context_.events.event(run.CurrentEvent);
+  screen.EventLbl.SetCaption("Event #: " + std::to_string(run.CurrentEvent) + " out of " +
                              std::to_string(context_.events.EventCount()));
-  screen.Text1.SetText(PickListPlaybackText());
+  context_.air.status.Tell(PickListPlaybackText());
   ShowNextUp();
   screen.CurrLabel[0].SetCaption(' ' + event.EventId + "  " + event.EventField4);
   screen.CurrLabel[1].SetCaption(' ' + event.EventField5);
   screen.CurrLabel[2].SetCaption(" Length:   " + event.EventLength);
   screen.CurrLabel[3].SetCaption(" Elapsed: ");
-  if (state.CurrentEvent > 1) ShowLast();
-  screen.List3.Select(state.CurrentEvent - 1);
+  if (run.CurrentEvent > 1) ShowLast();
+  screen.List3.Select(run.CurrentEvent - 1);
 }
 
 void PickListEngine::ShowNextUp() {
   PickListForm1& screen = context_.screen;
   const EventTable& events = context_.events;
-  const int next = context_.state.CurrentEvent + 1;
+  const int next = context_.run.CurrentEvent + 1;
   const bool has_next = next <= events.EventCount();
   const bool has_second = next + 1 <= events.EventCount();
   Show(screen.NextLabel2, has_second ? NextUpRows(events.event(next + 1), true) : Rows());
@@ -169,14 +161,14 @@ void PickListEngine::ShowNextUp() {
 }
 
 void PickListEngine::ShowLast() {
-  const PickListEvent& last = context_.events.event(context_.state.CurrentEvent - 1);
+  const PickListEvent& last = context_.events.event(context_.run.CurrentEvent - 1);
   context_.screen.LastLabel[0].SetCaption(' ' + last.EventId + "  " + last.EventField4);
   context_.screen.LastLabel[1].SetCaption(' ' + last.EventField5 + "   Len: " + last.EventLength);
 }
 
 void PickListEngine::WriteRecord() {
-  const PickListState& state = context_.state;
-  OrEndProgram(WritePickListRecord(context_.platform.files, state.TemplateName, state.CurrentEvent));
+  const PickListRun& run = context_.run;
+  OrEndProgram(WritePickListRecord(context_.platform.files, run.TemplateName, run.CurrentEvent));
 }
 
 void PickListEngine::CheckSpot() {
@@ -194,7 +186,7 @@ void PickListEngine::CheckSpot() {
   if (date_check != SpotDateSwitch::kOn) return;
   const auto refusal = RefusalByDates(id);
   if (!refusal) return;
-  context_.faults.Add(id + *refusal, ' ' + id + *refusal);
+  context_.air.faults.Add(id + *refusal, ' ' + id + *refusal);
   PassOverSpot();
 }
 
@@ -218,164 +210,119 @@ std::optional<std::string> PickListEngine::RefusalByDates(const std::string& id)
 /// What was refused never sounds. A list of nothing but spots that are out of their dates must come to an end:
 /// after too many in a row, or a whole round of a repeated list, the operator is told, and a later tick goes on.
 void PickListEngine::PassOverSpot() {
-  PickListState& state = context_.state;
-  state.ElapsedSecs = NumericValue(context_.events.event(state.CurrentEvent).EventLength);
-  ++state.CurrentEvent;
-  const bool whole_round = ++state.ExpiredSkipCount >= context_.events.EventCount() && state.RepeatOn == 1;
-  if (state.ExpiredSkipCount <= kMostExpiredSkips && !whole_round) {
+  PickListRun& run = context_.run;
+  run.ElapsedSecs = NumericValue(context_.events.event(run.CurrentEvent).EventLength);
+  ++run.CurrentEvent;
+  const bool whole_round = ++run.ExpiredSkipCount >= context_.events.EventCount() && run.RepeatOn;
+  if (run.ExpiredSkipCount <= kMostExpiredSkips && !whole_round) {
     PlayNextEvent();
     return;
   }
-  state.ExpiredSkipCount = 0;
+  run.ExpiredSkipCount = 0;
   context_.screen.Text1.SetBackColor(kYellow);
-  context_.screen.Text1.SetText("Endless Loop Aborted: This EXPIRED spot will not play. Press END RUN now!");
+  context_.air.status.Tell("Endless Loop Aborted: This EXPIRED spot will not play. Press END RUN now!");
   LeaveStep(whole_round ? kSecondsBetweenRounds : kSecondsUntilGoingOn);
-}
-
-/// Nothing is closed: a channel that plays goes on to its end.
-void PickListEngine::HoldAtPause() {
-  PickListState& state = context_.state;
-  context_.screen.Text1.SetText(std::string(22, ' ') + "Audio Paused... Press <Begin Next> to Resume.");
-  state.AudioPaused = 1;
-  state.PauseStartedAt = context_.platform.clock.Steady();
 }
 
 /// True when the announcement plays, which ends the step.
 bool PickListEngine::AnnounceTime() {
   PickListForm1& screen = context_.screen;
-  PickListState& state = context_.state;
-  MediaControl& channel = screen.Channels.MMControl1;
-  const int length = OpenFile(channel, TimeFileName(context_.platform.clock.Now()));
-  state.ActiveChannel = 1;
-  state.ItemStartTimer = context_.platform.clock.Steady();
-  if (length != 0) {
-    channel.Command(ChannelCommand::kPlay);
-    screen.CurrLabel[2].SetCaption(" Length:   " + ShortestSeconds(length));
+  const AirItem announcement{.id = {},
+                             .path = TimeFileName(context_.platform.clock.Now()),
+                             .first_text = {},
+                             .title = {},
+                             .origin = ItemOrigin::kPickList,
+                             .row = context_.run.CurrentEvent};
+  context_.air.deck.TakeTurn(1);
+  context_.air.deck.clock().Start();
+  if (context_.air.Begin(1, announcement)) {
     screen.CurrLabel[3].SetCaption(" ");
-    screen.CurrLabel[4].SetCaption('(' + channel.file_name() + ')');
-    context_.faults.ItemSounds();
     return true;
   }
-  const std::string row = channel.file_name() + " = Empty!!!";
-  context_.faults.Add(row, ' ' + row);
-  channel.Command(ChannelCommand::kClose);
-  ++state.CurrentEvent;
+  ++context_.run.CurrentEvent;
   PlayNextEvent();
   return false;
 }
 
-/// On channel 1 when it does not play, else on channel 2 when the overlap wants a second item. False when the
-/// step ends here.
-bool PickListEngine::StartItem() {
-  if (StartsNoChannel(context_.current_id())) return true;
-  if (context_.screen.Channels.MMControl1.Mode() != ChannelMode::kPlaying) return StartOnFirst();
-  return context_.state.OverlapActive != 1 || StartOnSecond();
+/// On channel 1 when it does not play, else on channel 2 when the overlap wants a second item.
+PickListEngine::Started PickListEngine::StartItem() {
+  if (StartsNoChannel(context_.current_id())) return Started::kNothing;
+  const Deck& deck = context_.air.deck;
+  if (deck.plays(1) && !deck.OverlapActive) return Started::kNothing;
+  // Nothing plays and no tick moves on: so a local break waits for the operator, and so does an event whose
+  // data file is gone.
+  if (context_.events.event(context_.run.CurrentEvent).EventDrive.empty()) return Started::kStepEnds;
+  const bool begun = deck.plays(1) ? StartOnSecond() : StartOnFirst();
+  if (!context_.run.run_over) CorrectForOverlap();
+  return begun ? Started::kBegun : Started::kNothing;
+}
+
+AirItem PickListEngine::ItemInTurn() const {
+  const PickListEvent& event = context_.events.event(context_.run.CurrentEvent);
+  const std::string extension =
+      FindAudioFile(context_.platform.files, event.EventDrive, event.EventId).value_or(std::string());
+  return {.id = event.EventId,
+          .path = station_paths::AudioFile(event.EventDrive, event.EventId, extension),
+          .first_text = event.EventField4,
+          .title = event.EventField5,
+          .origin = ItemOrigin::kPickList,
+          .row = context_.run.CurrentEvent};
 }
 
 bool PickListEngine::StartOnFirst() {
-  PickListState& state = context_.state;
-  MediaControl& channel = context_.screen.Channels.MMControl1;
-  // Nothing plays and no tick moves on: so a local break waits for the operator, and so does an event whose
-  // data file is gone.
-  if (context_.events.event(state.CurrentEvent).EventDrive.empty()) return false;
-  OpenCurrent(channel);
-  if (channel.Length() == 0) {
-    TellEmpty(channel);
-    channel.Command(ChannelCommand::kClose);
-    ++state.CurrentEvent;
-    PlayNextEvent();
-    if (state.run_over) return false;
-  }
-  Play(1);
-  CorrectForOverlap();
-  return true;
+  if (context_.air.Begin(1, ItemInTurn())) return true;
+  LeaveOutEmpty();
+  ++context_.run.CurrentEvent;
+  PlayNextEvent();
+  if (!context_.run.run_over) context_.air.ShowTurn(1);
+  return false;
 }
 
 /// An empty file is not replaced here: the run then waits for the operator or for the end of channel 1.
 bool PickListEngine::StartOnSecond() {
-  PickListState& state = context_.state;
-  MediaControl& channel = context_.screen.Channels.MMControl2;
-  if (context_.events.event(state.CurrentEvent).EventDrive.empty()) return false;
-  if (channel.Mode() != ChannelMode::kPlaying) {
-    OpenCurrent(channel);
-    if (channel.Length() == 0) {
-      TellEmpty(channel);
-      channel.Command(ChannelCommand::kClose);
-    }
+  Deck& deck = context_.air.deck;
+  const bool begun_within = deck.plays(2);
+  const bool begun = !begun_within && context_.air.Begin(2, ItemInTurn());
+  if (!begun && !begun_within) LeaveOutEmpty();
+  if (!begun) context_.air.ShowTurn(2);
+  deck.OverlapActive = false;
+  return begun;
+}
+
+/// Behind a nested step the event in turn is one that the inner step began. It stands in the proof a second time,
+/// which is wanted; what makes no sound of its own is not proved.
+void PickListEngine::ProveAgain() const {
+  const Deck& deck = context_.air.deck;
+  for (const int channel : {1, 2}) {
+    const AirItem* item = deck.item(channel);
+    if (item != nullptr && deck.plays(channel) && item->row == context_.run.CurrentEvent)
+      context_.proof.Write(*item);
   }
-  Play(2);
-  state.OverlapActive = 0;
-  CorrectForOverlap();
-  return true;
 }
 
-void PickListEngine::OpenCurrent(MediaControl& channel) {
-  const PickListEvent& event = context_.events.event(context_.state.CurrentEvent);
-  const auto extension = FindAudioFile(context_.platform.files, event.EventDrive, event.EventId);
-  OpenFile(channel,
-           station_paths::AudioFile(event.EventDrive, event.EventId, extension.value_or(std::string())));
-}
-
-void PickListEngine::TellEmpty(const MediaControl& channel) {
-  PickListState& state = context_.state;
-  const std::string row = channel.file_name() + " = Empty!!!";
-  context_.faults.Add(row, ' ' + row);
-  const double length = NumericValue(context_.events.event(state.CurrentEvent).EventLength);
-  state.ProgramTimeNow = length + state.ProgramTimeSum;
-  state.SecondsRemaining = state.TotalSeconds - state.ProgramTimeNow;
+/// The seconds of what could not be played leave the total.
+void PickListEngine::LeaveOutEmpty() {
+  PickListRun& run = context_.run;
+  const double length = NumericValue(context_.events.event(run.CurrentEvent).EventLength);
+  run.ProgramTimeNow = length + run.ProgramTimeSum;
+  run.SecondsRemaining = run.TotalSeconds - run.ProgramTimeNow;
   ShowRemaining();
-  state.TotalSeconds = RoundedSeconds(std::to_string(state.TotalSeconds - length));
-}
-
-void PickListEngine::Play(int number) {
-  PickListForm1& screen = context_.screen;
-  MediaControl& channel = screen.Channels.channel(number);
-  channel.Command(ChannelCommand::kPlay);
-  start_time_ = HourMinuteSecondAmPm(context_.platform.clock.Now());
-  context_.state.ActiveChannel = number;
-  screen.CurrLabel[2].SetCaption(" Length:   " + ShortestSeconds(channel.Length()));
-  screen.CurrLabel[4].SetCaption('(' + channel.file_name() + ')');
+  run.TotalSeconds = RoundedSeconds(std::to_string(run.TotalSeconds - length));
 }
 
 /// Two items that overlap last so much less together.
 void PickListEngine::CorrectForOverlap() {
-  PickListState& state = context_.state;
+  PickListRun& run = context_.run;
   const int overlap = context_.screen.Overlap.seconds();
-  if (overlap != 0 && state.SkipSumming != 1 && state.CurrentEvent > 1 &&
-      !context_.current_id().starts_with('S') &&
-      !context_.events.event(state.CurrentEvent - 1).EventId.starts_with('S')) {
-    state.TotalSeconds -= overlap;
+  if (overlap != 0 && !run.SkipSumming && run.CurrentEvent > 1 && !context_.current_id().starts_with('S') &&
+      !context_.events.event(run.CurrentEvent - 1).EventId.starts_with('S')) {
+    run.TotalSeconds -= overlap;
   }
-  state.SkipSumming = 0;
-}
-
-void PickListEngine::Verify() {
-  PickListForm1& screen = context_.screen;
-  if (!screen.Channels.AnythingSounds()) return;  // nothing could be started: no proof of airing
-  context_.faults.ItemSounds();
-  const PickListEvent& event = context_.events.event(context_.state.CurrentEvent);
-  if (!screen.Switches.verification_on() || !IsVerified(event.EventId)) return;
-  OrEndProgram(LogVerification(context_.platform.files, context_.platform.clock.Now(), event.EventId,
-                               LogDescription(event.EventId, event.EventField4), start_time_,
-                               ModeLetter::kPickList));
-}
-
-void PickListEngine::FinishStep() {
-  PickListForm1& screen = context_.screen;
-  const CivilTime now = context_.platform.clock.Now();
-  screen.Text2.SetText("Today is: " + DayName(now) + ". " + MonthDayYear(now));
-  context_.state.ItemStartTimer = context_.platform.clock.Steady();
-  ArmTimers();
-}
-
-void PickListEngine::ArmTimers() {
-  context_.screen.Timer2.SetInterval(kChannelPollTick);
-  const bool overlap = context_.screen.Overlap.Settled() != 0;
-  context_.screen.Timer3.SetInterval(overlap ? kOverlapTick : std::chrono::milliseconds(0));
+  run.SkipSumming = false;
 }
 
 void PickListEngine::ShowRemaining(bool wide) {
-  Show(context_.screen.TotalRemain, RemainingTexts(context_.state.SecondsRemaining, wide));
+  Show(context_.screen.TotalRemain, RemainingTexts(context_.run.SecondsRemaining, wide));
 }
 
 std::string PickListPlaybackText() {

@@ -16,11 +16,11 @@
 #include <optional>
 #include <string>
 
+#include "station/onair/air_item.h"
 #include "station/platform/clock.h"
 
 namespace quixair {
 
-class MediaControl;
 struct PickListContext;
 
 class PickListEngine {
@@ -37,9 +37,6 @@ class PickListEngine {
   void GoOnWhereLeft();
   /// Closes the list: its hand-over files, the record of the run, the screen.
   void EndOfRun();
-  /// Polling begins with the first step that comes to its end, and with the run: a list may begin with an
-  /// announcement, whose step ends early.
-  void ArmTimers();
   /// `wide`: the seconds in the form "00.00".
   void ShowRemaining(bool wide = false);
 
@@ -50,7 +47,6 @@ class PickListEngine {
   void Step();
   void AddUpTime();
   bool PassListEnd();
-  void HoldForLive();
   void ShowLabels();
   void ShowNextUp();
   void ShowLast();
@@ -58,17 +54,15 @@ class PickListEngine {
   void CheckSpot();
   std::optional<std::string> RefusalByDates(const std::string& id) const;
   void PassOverSpot();
-  void HoldAtPause();
   bool AnnounceTime();
-  bool StartItem();
+  enum class Started { kBegun, kNothing, kStepEnds };
+  Started StartItem();
   bool StartOnFirst();
   bool StartOnSecond();
-  void OpenCurrent(MediaControl& channel);
-  void TellEmpty(const MediaControl& channel);
-  void Play(int number);
   void CorrectForOverlap();
-  void Verify();
-  void FinishStep();
+  AirItem ItemInTurn() const;
+  void ProveAgain() const;
+  void LeaveOutEmpty();
 
   // day_change.cpp
   bool ChangeDay();
@@ -81,7 +75,6 @@ class PickListEngine {
   bool step_left_ = false;  // for a later tick
   SteadyTime left_at_{};
   double go_on_after_ = 0;  // seconds from then
-  std::string start_time_;  // of the item that was played last, "HH:MM:SS AM/PM"
 };
 
 /// The status text of a run.

@@ -1,12 +1,20 @@
 #include "station/picklist/pick_list_form1.h"
 
+#include <array>
+
+#include "station/console/station_paths.h"
 #include "station/picklist/pick_list_playback.h"
 
 namespace quixair {
 PickListForm1::PickListForm1(const Platform& platform)
-    : Screen(platform, "PickListForm1", "Pick-List Playback Mode [V.4X]"),
+    : PlaybackScreen(platform, {.name = "PickListForm1",
+                                .title = "Pick-List Playback Mode [V.4X]",
+                                .overlap_label = "Label5",
+                                .overlap_save = "Command3",
+                                .verification_file = station_paths::kPickVerify,
+                                .no_start_time = "Start Time = (MANUAL)"}),
       playback_(std::make_unique<PickListPlayback>(*this)) {
-  for (Control* control : std::array<Control*, 5>{&Text3, &Text4, &Text5, &EscapeFrame, &EventLbl}) {
+  for (Control* control : std::array<Control*, 4>{&Text4, &Text5, &EscapeFrame, &EventLbl}) {
     control->Hide();
   }
   Text6.SetText("There is a high number of errors. Press Get Out! to end the run.");
@@ -23,16 +31,12 @@ void PickListForm1::CloseWindow() {
   playback_->EndRun();
 }
 
-OnAirStatus PickListForm1::on_air_status() const {
-  const PickListState& state = playback_->context().state;
-  return StatusOf(Channels, {.running = state.running,
-                             .live_now = state.live_now,
-                             .paused = state.AudioPaused == 1,
-                             .active_channel = state.ActiveChannel});
+void PickListForm1::ProgramEnds() {
+  playback_->ProgramEnds();
 }
 
-std::vector<MediaControl*> PickListForm1::sounding_channels() {
-  return {&Channels.MMControl1, &Channels.MMControl2};
+OnAirStatus PickListForm1::on_air_status() const {
+  return playback_->status();
 }
 
 }  // namespace quixair

@@ -15,7 +15,6 @@ class PickListOverlap {
   void Tick();
 
  private:
-  void AbortCompeting();
   bool MayOverlap() const;
 
   PickListContext& context_;

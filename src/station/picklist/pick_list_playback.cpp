@@ -12,18 +12,28 @@
 #include "station/platform/programs.h"
 
 namespace quixair {
+namespace {
+
+constexpr std::chrono::milliseconds kChannelPollTick{190};  // Random polls at 210
+constexpr double kTogetherSeconds = 1;                      // Random says ten seconds
+
+}  // namespace
 
 PickListPlayback::PickListPlayback(PickListForm1& screen)
     : context_{.screen = screen,
                .platform = screen.platform(),
+               .air = OnAir(screen, {.mode = ModeLetter::kPickList,
+                                     .channel_poll = kChannelPollTick,
+                                     .together_seconds = kTogetherSeconds}),
+               .proof = ProofOfAiring(screen.platform(), ModeLetter::kPickList, screen.Switches,
+                                      [](const Status& written) { OrEndProgram(written); }),
                .events = {},
-               .state = {},
-               .faults = AirFaultLog(screen.platform().files, screen.platform().clock, ModeLetter::kPickList,
-                                     [&screen](std::string row) { screen.List6.AddFault(std::move(row)); })},
+               .run = {}},
       engine_(context_),
       controls_(context_, engine_),
       watcher_(context_, engine_, controls_),
       overlap_(context_, engine_) {
+  context_.air.deck.Observe(context_.proof);
   engine_.activate = [this] { return Activate(); };
   ConnectControls();
   ConnectSettings();
@@ -39,12 +49,12 @@ void PickListPlayback::ConnectControls() {
   screen.Run.ContinueCommand.on_click = [this] { controls_.Continue(); };
   screen.Run.BeginNextCommand.on_click = [this] { controls_.BeginNext(); };
   screen.Run.RequeueCommand.on_click = [this] { controls_.Requeue(); };
-  screen.Run.GoLive.on_click = [this] { controls_.GoLive(); };
-  screen.Timer1.on_tick = [this] { controls_.StartWhenDue(); };
+  screen.Run.GoLive.on_click = [this] { context_.air.GoLive(); };
+  screen.Timer1.on_tick = [this] { context_.air.StartWhenDue([this] { controls_.Start(); }); };
   screen.Timer2.on_tick = [this] { watcher_.Tick(); };
   screen.Timer3.on_tick = [this] { overlap_.Tick(); };
-  screen.Channels.ConnectBars([this] { return controls_.BarMayContinue(true); },
-                              [this] { return controls_.BarMayContinue(false); },
+  screen.Channels.ConnectBars([this] { return context_.air.BarMayContinue(true); },
+                              [this] { return context_.air.BarMayContinue(false); },
                               [this] { controls_.Continue(); });
 }
 
@@ -56,10 +66,10 @@ void PickListPlayback::ConnectSettings() {
   screen.Command1.on_click = [this] { ToggleCover(); };
   screen.OLE1.on_click = [this] { context_.platform.programs.Run("C:\\WINDOWS\\sndvol32.exe"); };
   screen.Check1.on_click = [this, &screen] {
-    context_.state.RepeatOn = screen.Check1.ticked() ? 1 : 0;
-    screen.Check1.SetCaption(screen.Check1.ticked() ? "Repeat: ON" : "Repeat: OFF");
-    SkipAndGoOn(
-        WriteNumberSetting(context_.platform.files, station_paths::kPickRepeat, context_.state.RepeatOn));
+    context_.run.RepeatOn = screen.Check1.ticked();
+    screen.Check1.SetCaption(context_.run.RepeatOn ? "Repeat: ON" : "Repeat: OFF");
+    SkipAndGoOn(WriteNumberSetting(context_.platform.files, station_paths::kPickRepeat,
+                                   context_.run.RepeatOn ? 1 : 0));
   };
 }
 
@@ -71,16 +81,16 @@ void PickListPlayback::ToggleCover() {
 }
 
 bool PickListPlayback::Activate() {
-  PickListState& state = context_.state;
-  if (state.ScreenActivated == 1) return true;
-  state.ScreenActivated = 1;
-  state.CurrentEvent = 1;
-  state.ProgramTimeNow = 0;
-  state.TotalSeconds = state.TotalAtLoad;
-  state.ProgramTimeSum = 0;
-  state.AutoRestarted = 0;
+  PickListRun& run = context_.run;
+  if (run.ScreenActivated) return true;
+  run.ScreenActivated = true;
+  run.CurrentEvent = 1;
+  run.ProgramTimeNow = 0;
+  run.TotalSeconds = run.TotalAtLoad;
+  run.ProgramTimeSum = 0;
+  run.AutoRestarted = false;
   TakeRestartRecord();
-  if (state.NextDayLoad != 1) PrepareScreen();
+  if (!run.NextDayLoad) PrepareScreen();
   if (!ReadList()) return false;
   FillLists();
   StartByItself();
@@ -88,13 +98,13 @@ bool PickListPlayback::Activate() {
 }
 
 void PickListPlayback::TakeRestartRecord() {
-  PickListState& state = context_.state;
+  PickListRun& run = context_.run;
   if (!context_.platform.files.Exists(station_paths::kReset)) return;
   const RestartRecord record = ReadRestartRecord(context_.platform.files);
-  state.TemplateName = record.template_name;
+  run.TemplateName = record.template_name;
   if (!record.running || record.mode != kPickListMode) return;
-  state.FirstEvent = record.event_number;
-  state.AutoRestarted = 1;
+  run.FirstEvent = record.event_number;
+  run.AutoRestarted = true;
 }
 
 void PickListPlayback::PrepareScreen() {
@@ -108,50 +118,49 @@ void PickListPlayback::PrepareScreen() {
     control->Hide();
   }
   screen.Timer2.SetEnabled(true);
-  screen.Channels.MMControl1.Command(ChannelCommand::kClose);
-  screen.Channels.MMControl2.Command(ChannelCommand::kClose);
+  context_.air.deck.EndAll(EndCause::kOperator);
   screen.Switches.ReadFiles();
-  screen.Text1.SetText("Loading data for PICKLIST.DTA...");
-  context_.state.PikModeValue =
+  context_.air.status.Tell("Loading data for PICKLIST.DTA...");
+  context_.run.PikModeValue =
       ReadSetting(context_.platform.files, station_paths::kPikMode).value_or(std::string());
 }
 
 /// False when the next day's template has gone since it was looked for.
 bool PickListPlayback::ReadList() {
   PickListForm1& screen = context_.screen;
-  PickListState& state = context_.state;
+  PickListRun& run = context_.run;
   Files& files = context_.platform.files;
   context_.events = EventTable();
   Status read;
-  if (state.PikModeValue == "1" || state.PikModeValue == "4") {
+  if (run.PikModeValue == "1" || run.PikModeValue == "4") {
     read = context_.events.ReadHandOver(files);
-  } else if (state.PikModeValue == "0") {
-    if (state.NextDayLoad == 1) {
+  } else if (run.PikModeValue == "0") {
+    if (run.NextDayLoad) {
       screen.List3.Clear();
-      screen.Text1.SetText("Loading data for Next Day");
+      context_.air.status.Tell("Loading data for Next Day");
     }
-    state.TemplateName = ReadSetting(files, station_paths::kStorePik).value_or(std::string());
-    screen.Label7.SetCaption(state.TemplateName);
-    read = context_.events.ReadTemplate(files, state.TemplateName);
+    run.TemplateName = ReadSetting(files, station_paths::kStorePik).value_or(std::string());
+    screen.Label7.SetCaption(run.TemplateName);
+    read = context_.events.ReadTemplate(files, run.TemplateName);
   }
-  if (read.error() == RunTimeError::kFileNotFound && state.NextDayLoad == 1) return false;
+  if (read.error() == RunTimeError::kFileNotFound && run.NextDayLoad) return false;
   TellFault(read);
   TellFault(context_.events.ReadDataFiles(files));
-  state.TotalSeconds = context_.events.TotalSeconds();
-  state.TotalAtLoad = state.TotalSeconds;
+  run.TotalSeconds = context_.events.TotalSeconds();
+  run.TotalAtLoad = run.TotalSeconds;
   return true;
 }
 
 /// Nobody is there to answer a box: it would keep the station silent until morning.
 bool PickListPlayback::Unattended() const {
-  return context_.state.AutoRestarted == 1 || context_.state.NextDayLoad == 1;
+  return context_.run.AutoRestarted || context_.run.NextDayLoad;
 }
 
 void PickListPlayback::TellFault(const Status& fault) {
   const RunTimeError error = fault.error();
   if (fault.ok() || error == RunTimeError::kBadFileName) return;
   Dialogs& dialogs = context_.platform.dialogs;
-  const std::string& name = context_.state.TemplateName;
+  const std::string& name = context_.run.TemplateName;
   if (error == RunTimeError::kFileNotFound) {
     dialogs.MessageBox(
         "This template wasn't found.  Program will terminate.  Check to see if template exists.\n"
@@ -163,7 +172,7 @@ void PickListPlayback::TellFault(const Status& fault) {
   const std::string title = torn ? "Possible Data Corruption in: " + name + " [Error 62]"
                                  : "There is a Problem with Template: " + name;
   if (Unattended()) {
-    context_.faults.Add(title, ' ' + title + (torn ? "" : " Error = " + std::to_string(fault.number())));
+    context_.air.faults.Add(title, ' ' + title + (torn ? "" : " Error = " + std::to_string(fault.number())));
     return;
   }
   if (torn) {
@@ -182,15 +191,15 @@ void PickListPlayback::TellFault(const Status& fault) {
 
 void PickListPlayback::FillLists() {
   PickListForm1& screen = context_.screen;
-  PickListState& state = context_.state;
+  PickListRun& run = context_.run;
   screen.List1.Clear();
   for (int number = 1; number <= context_.events.EventCount(); ++number) {
     screen.List1.AddRow(EventRow(number, context_.events.event(number)));
   }
   screen.Overlap.ReadFile();
-  state.RepeatOn = ReadNumberSetting(context_.platform.files, station_paths::kPickRepeat) == 1 ? 1 : 0;
-  screen.Check1.Tick(state.RepeatOn == 1);
-  screen.Check1.SetCaption(state.RepeatOn == 1 ? "Repeat: ON" : "Repeat: OFF");
+  run.RepeatOn = ReadNumberSetting(context_.platform.files, station_paths::kPickRepeat) == 1;
+  screen.Check1.Tick(run.RepeatOn);
+  screen.Check1.SetCaption(run.RepeatOn ? "Repeat: ON" : "Repeat: OFF");
   if (context_.events.EventCount() == 1) {
     screen.Overlap.List2.Select(0);
     screen.Overlap.List2.Disable();
@@ -198,14 +207,14 @@ void PickListPlayback::FillLists() {
     screen.Overlap.caption.SetCaption("[Can't Overlap]");
   }
   screen.List6.AddFault("-- error log --");
-  screen.Text1.SetText("Ready to Begin Playback.  Press START to begin, or QUIT to Exit");
+  context_.air.status.Tell("Ready to Begin Playback.  Press START to begin, or QUIT to Exit");
 }
 
 void PickListPlayback::StartByItself() {
-  PickListState& state = context_.state;
-  if (state.NextDayLoad == 1) controls_.Start();
-  if (state.AutoRestarted != 1) return;
-  state.AutoRestarted = 0;
+  PickListRun& run = context_.run;
+  if (run.NextDayLoad) controls_.Start();
+  if (!run.AutoRestarted) return;
+  run.AutoRestarted = false;
   const CivilTime now = context_.platform.clock.Now();
   const std::string row = "Auto-Restart Complete: " + HourMinuteSecond24(now) + "  " + ShortDate(now);
   context_.screen.List6.AddFault(row);

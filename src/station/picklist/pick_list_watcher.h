@@ -3,24 +3,20 @@
 // Timer2's tick, every 190 ms: nothing tells the screen that an item has ended, it polls the modes of its
 // channels. Its rules run in a fixed order, each reading the modes anew.
 
-#include <string>
-
 namespace quixair {
 
-class MediaControl;
+class Deck;
 class PickListControls;
 class PickListEngine;
 struct PickListContext;
 
 class PickListWatcher {
  public:
-  PickListWatcher(PickListContext& context, PickListEngine& engine, PickListControls& controls)
-      : context_(context), engine_(engine), controls_(controls) {}
+  PickListWatcher(PickListContext& context, PickListEngine& engine, PickListControls& controls);
   void Tick();
 
  private:
   void WatchChannels();
-  void ShowElapsed();
   void ShowTotals();
   void RetireFirstAfterOverlap();
   void HandBack();
@@ -33,9 +29,9 @@ class PickListWatcher {
   void GoOnAfterPause();
 
   void GoOn();
-  MediaControl& channel(int number);
 
   PickListContext& context_;
+  Deck& deck_;
   PickListEngine& engine_;
   PickListControls& controls_;
 };

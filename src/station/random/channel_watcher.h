@@ -3,26 +3,22 @@
 // Timer2's tick, every 210 ms: nothing tells the screen that an item has ended, it polls the modes of its
 // channels. Its rules run in a fixed order, each reading the modes anew.
 
-#include <functional>
-
 namespace quixair {
 
+class Deck;
 class DayScheduler;
 class SequencingEngine;
 class RunControls;
-class MediaControl;
 struct RandomContext;
 
 class ChannelWatcher {
  public:
   ChannelWatcher(RandomContext& context, SequencingEngine& engine, RunControls& controls,
-                 DayScheduler& scheduler)
-      : context_(context), engine_(engine), controls_(controls), scheduler_(scheduler) {}
+                 DayScheduler& scheduler);
   void Tick();
 
  private:
   bool WaitWhilePaused();
-  void ShowElapsed();
   void RetireFirstAfterOverlap();
   void HandBack();
   void StartWhenBothClosed();
@@ -32,9 +28,8 @@ class ChannelWatcher {
   void EndThird();
   void DropEmptyChannels();
 
-  MediaControl& channel(int number);
-
   RandomContext& context_;
+  Deck& deck_;
   SequencingEngine& engine_;
   RunControls& controls_;
   DayScheduler& scheduler_;

@@ -9,13 +9,12 @@
 #include "station/platform/dialogs.h"
 #include "station/platform/text.h"
 #include "station/random/random_form1.h"
-#include "station/random/random_playback.h"
+#include "station/random/random_run.h"
 
 namespace quixair {
 namespace {
 
 constexpr std::string_view kNoTemplate = "Null";
-constexpr const char* kReadyText = "Ready to Begin Playback.  Press START to begin, or QUIT to Exit";
 constexpr std::int64_t kMillisecondsOfDay = 86400000;
 
 bool IsDailyName(std::string_view template_name) {
@@ -46,14 +45,13 @@ void DayScheduler::Reset() {
   choice_prepared_ = false;
 }
 
-void DayScheduler::PrepareTemplateChoice() {
+void DayScheduler::PrepareTemplateChoice(bool restarted) {
   if (choice_prepared_) return;
   RandomForm1& screen = context_.screen;
-  RunState& run = context_.run;
-  screen.Text1.SetText(
-      run.RestartPending == 1
-          ? "A problem occured and your system has been restarted..."
-          : "Select an Existing Template for Playback by Double Clicking or pressing <Enter>...");
+  RandomRun& run = context_.run;
+  context_.air.status.Tell(
+      restarted ? "A problem occured and your system has been restarted..."
+                : "Select an Existing Template for Playback by Double Clicking or pressing <Enter>...");
   screen.Start.Disable();
   ShowTemplates(screen.File1, "*.TPL");
   ShowTemplates(screen.File2, "*.TPD");
@@ -72,6 +70,7 @@ void DayScheduler::Choose(const ChosenTemplate& chosen) {
     SkipAndGoOn(WriteNumberSetting(context_.platform.files, station_paths::kSatCorrection, 0));
   }
   TakeTemplate(chosen.name);
+  context_.air.status.Tell(status_text::kReady);
 }
 
 void DayScheduler::TakeTemplate(const std::string& name) {
@@ -83,7 +82,6 @@ void DayScheduler::TakeTemplate(const std::string& name) {
   screen.Frame2.Hide();
   screen.Start.Enable();
   screen.Command4.Enable();
-  if (context_.run.RestartPending != 1) screen.Text1.SetText(kReadyText);
   LoadSatTemp();
 }
 
@@ -102,8 +100,8 @@ void DayScheduler::DeclineChoice() {
 
 void DayScheduler::LoadSatTemp() {
   RandomForm1& screen = context_.screen;
-  RunState& run = context_.run;
-  run.StopSetActive = 0;
+  RandomRun& run = context_.run;
+  run.StopSetActive = false;
   run.StopSetIndex = 0;
   screen.List7.Clear();
   screen.List7.AddRow("--Stop-Set Rotation List--");
@@ -120,10 +118,6 @@ void DayScheduler::LoadSatTemp() {
   ShowRows();
   screen.Label9.Hide();
   TellWrongDay(context_.platform.clock.Now());  // before the run too: there is still time to choose another
-  if (run.RestartPending != 1) return;
-  run.RestartPending = 0;
-  screen.Frame2.Hide();
-  press_start();
 }
 
 void DayScheduler::TellMissing() {
@@ -155,13 +149,13 @@ bool DayScheduler::DayHasChanged(const CivilTime& now) {
 }
 
 void DayScheduler::ChangeAtMidnight() {
-  RunState& run = context_.run;
+  RandomRun& run = context_.run;
   const CivilTime now = context_.platform.clock.Now();
   if (!DayHasChanged(now) || !IsOfAnotherDay(run.TemplateName, now)) return;
   run.TemplateName = DayOf(now) + ".TPD";
   SkipAndGoOn(WriteRunningRecord(context_.platform.files, kRandomMode, run.TemplateName));
   // The set is forgotten, not the promise that a pause in it ends by itself.
-  if (run.AudioPaused == 1 && run.StopSetActive == 1) run.override_outlives_set = true;
+  if (context_.air.deck.AudioPaused() && run.StopSetActive) run.override_outlives_set = true;
   context_.screen.Frame2.Hide();
   LoadSatTemp();
 }
@@ -189,7 +183,7 @@ void DayScheduler::Scan() {
   if (TellWrongDay(now)) return;
   const StopSetList& list = context_.stop_sets;
   if (list.count() == 0) return;
-  if (context_.run.StopSetActive != 1) {
+  if (!context_.run.StopSetActive) {
     context_.screen.Text7.Show();
     context_.screen.Text7.SetText("SCANNING STOP SETS");
   }
@@ -208,18 +202,18 @@ void DayScheduler::MakeDue(int number) {
   row.marked = true;
   screen.List7.SetRow(number, row.text());
   screen.List7.Select(number);
-  context_.run.StopSetActive = 1;
+  context_.run.StopSetActive = true;
   context_.run.StopSetIndex = number;
 }
 
 StopSetState DayScheduler::state(const CivilTime& now) const {
-  const RunState& run = context_.run;
+  const RandomRun& run = context_.run;
   if (!choice_prepared_ || run.TemplateName == kNoTemplate) return StopSetState::kOff;
   if (context_.screen.Frame2.visible()) return StopSetState::kNotChosen;
   if (template_load_failed_) return StopSetState::kMissing;
   if (IsOfAnotherDay(run.TemplateName, now)) return StopSetState::kWrongDay;
-  if (run.StopSetActive != 1) return StopSetState::kScanning;
-  if (run.AudioPaused == 1) return StopSetState::kPaused;
+  if (!run.StopSetActive) return StopSetState::kScanning;
+  if (context_.air.deck.AudioPaused()) return StopSetState::kPaused;
   const bool at_its_time = context_.stop_sets.row(run.StopSetIndex).kind == EventKind::kLocalBreak;
   return at_its_time ? StopSetState::kDue : StopSetState::kPlaying;
 }
@@ -239,7 +233,7 @@ StopSetStatus DayScheduler::status() const {
   }
   const int override_seconds = context_.settings.PauseOverrideSecs;
   if (status.state == StopSetState::kPaused && override_seconds != 0) {
-    status.override_seconds = std::max(0, override_seconds - static_cast<int>(context_.run.ElapsedSecs));
+    status.override_seconds = std::max(0, override_seconds - static_cast<int>(context_.air.deck.elapsed()));
   }
   return status;
 }

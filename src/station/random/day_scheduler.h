@@ -11,7 +11,6 @@
 // comes twice does not play it twice.
 
 #include <cstdint>
-#include <functional>
 #include <string>
 
 #include "station/onair/on_air_status.h"
@@ -26,13 +25,11 @@ class DayScheduler {
  public:
   explicit DayScheduler(RandomContext& context);
 
-  /// Presses Start at the end of a load that follows a power cut.
-  std::function<void()> press_start;
-
   /// The screen loads anew: the operator will be asked once more.
   void Reset();
-  /// Asks the operator for a template, unless he was asked since the last Reset.
-  void PrepareTemplateChoice();
+  /// Asks the operator for a template, unless he was asked since the last Reset. `restarted`: a power cut's run
+  /// goes on, with a template of its own.
+  void PrepareTemplateChoice(bool restarted);
   /// Puts a template of C:\QXTEMPLT in force, as the operator does who chooses it.
   void TakeTemplate(const std::string& name);
 

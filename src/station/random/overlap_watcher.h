@@ -15,7 +15,6 @@ class OverlapWatcher {
   void Tick();
 
  private:
-  void AbortCompeting();
   bool HeldOff() const;
   bool PointReached(int overlap);
 

@@ -1,13 +1,20 @@
 #include "station/random/random_form1.h"
 
-#include "station/console/settings_files.h"
+#include <array>
+
+#include "station/console/station_paths.h"
 #include "station/random/random_playback.h"
 
 namespace quixair {
 RandomForm1::RandomForm1(const Platform& platform)
-    : Screen(platform, "RandomForm1", "Random Playback Mode  [4X]"),
+    : PlaybackScreen(platform, {.name = "RandomForm1",
+                                .title = "Random Playback Mode  [4X]",
+                                .overlap_label = "Label4",
+                                .overlap_save = "Command6",
+                                .verification_file = station_paths::kRandomVerify,
+                                .no_start_time = ""}),
       playback_(std::make_unique<RandomPlayback>(*this)) {
-  for (Control* control : std::array<Control*, 5>{&Text3, &Text4, &Text7, &Label9, &Frame2}) control->Hide();
+  for (Control* control : std::array<Control*, 4>{&Text4, &Text7, &Label9, &Frame2}) control->Hide();
   Command4.Disable();
   Command3.on_click = [this] {
     const bool show = !List4.visible();
@@ -33,22 +40,16 @@ void RandomForm1::CloseWindow() {
   playback_->Leave();
 }
 
+void RandomForm1::ProgramEnds() {
+  playback_->ProgramEnds();
+}
+
 OnAirStatus RandomForm1::on_air_status() const {
-  const RunState& run = playback_->context().run;
-  OnAirStatus status = StatusOf(Channels, {.running = run.running,
-                                           .live_now = run.live_now,
-                                           .paused = run.AudioPaused == 1,
-                                           .active_channel = run.ActiveChannel});
-  status.stop_set = run.StopSetActive == 1;
-  return status;
+  return playback_->status();
 }
 
 std::optional<StopSetStatus> RandomForm1::stop_set_status() const {
   return playback_->scheduler().status();
-}
-
-std::vector<MediaControl*> RandomForm1::sounding_channels() {
-  return {&Channels.MMControl1, &Channels.MMControl2};
 }
 
 }  // namespace quixair

@@ -16,6 +16,8 @@ namespace quixair {
 namespace {
 
 constexpr std::chrono::milliseconds kSettingsTick{300000};
+constexpr std::chrono::milliseconds kChannelPollTick{210};  // Pick-List polls at 190
+constexpr double kTogetherSeconds = 10;                     // Pick-List says one second
 constexpr double kProgressSeconds = 0.15;
 
 [[noreturn]] void RefuseLibrary(const Platform& platform, std::string_view title, std::string_view text) {
@@ -28,20 +30,41 @@ constexpr double kProgressSeconds = 0.15;
 RandomPlayback::RandomPlayback(RandomForm1& screen)
     : context_{.screen = screen,
                .platform = screen.platform(),
+               .air = OnAir(screen, {.mode = ModeLetter::kRandom,
+                                     .channel_poll = kChannelPollTick,
+                                     .together_seconds = kTogetherSeconds}),
+               .proof = ProofOfAiring(screen.platform(), ModeLetter::kRandom, screen.Switches,
+                                      [this](const Status& written) { TellProofWritten(written); }),
                .settings = {},
                .pools = {},
                .rotation = {},
                .stop_sets = {},
-               .run = {},
-               .faults = AirFaultLog(screen.platform().files, screen.platform().clock, ModeLetter::kRandom,
-                                     [&screen](std::string row) { screen.List6.AddFault(std::move(row)); })},
+               .run = {}},
       engine_(context_),
       controls_(context_, engine_),
       scheduler_(context_),
       watcher_(context_, engine_, controls_, scheduler_),
       overlap_(context_, engine_) {
-  scheduler_.press_start = [this] { controls_.Start(); };
+  context_.air.deck.Observe(context_.proof);
   ConnectControls();
+}
+
+/// A full disk is told, and told no more when there is room again.
+void RandomPlayback::TellProofWritten(const Status& written) {
+  TextBox& warning = context_.screen.Text3;
+  if (written.error() == RunTimeError::kDiskFull) {
+    warning.SetText(kDriveFullWarning);
+    warning.Show();
+  } else if (written.ok() && warning.visible()) {
+    if (warning.text() == kDriveFullWarning) warning.SetText("");
+    warning.Hide();
+  }
+}
+
+OnAirStatus RandomPlayback::status() const {
+  OnAirStatus status = context_.air.deck.status();
+  status.stop_set = context_.run.StopSetActive;
+  return status;
 }
 
 void RandomPlayback::ConnectControls() {
@@ -52,22 +75,22 @@ void RandomPlayback::ConnectControls() {
   screen.Run.ContinueCommand.on_click = [this] { controls_.Continue(); };
   screen.Run.BeginNextCommand.on_click = [this] { controls_.BeginNext(); };
   screen.Run.RequeueCommand.on_click = [this] { controls_.Requeue(); };
-  screen.Run.GoLive.on_click = [this] { controls_.GoLive(); };
+  screen.Run.GoLive.on_click = [this] { context_.air.GoLive(); };
   screen.Command4.on_click = [&screen] { screen.StartTime.OpenFrame(); };
   screen.List1.on_click = [this] { controls_.ChooseFirstEvent(); };
   screen.Refresh.on_click = [this] { Load(); };
   screen.Command5.on_click = [this] { ReadSettings(); };
-  screen.Timer1.on_tick = [this] { controls_.StartWhenDue(); };
+  screen.Timer1.on_tick = [this] { context_.air.StartWhenDue([this] { controls_.Start(); }); };
   screen.Timer2.on_tick = [this] { watcher_.Tick(); };
   screen.Timer3.on_tick = [this] { overlap_.Tick(); };
   screen.Timer4.on_tick = [this] { LoadStatus(false); };
-  screen.Channels.ConnectBars([this] { return controls_.BarMayContinue(true); },
-                              [this] { return controls_.BarMayContinue(false); },
+  screen.Channels.ConnectBars([this] { return context_.air.BarMayContinue(true); },
+                              [this] { return context_.air.BarMayContinue(false); },
                               [this] { controls_.Continue(); });
 }
 
 void RandomPlayback::Leave() {
-  context_.run.running ? controls_.EndRun() : controls_.Quit();
+  context_.air.deck.running() ? controls_.EndRun() : controls_.Quit();
   context_.platform.screens.Unload(context_.screen);
 }
 
@@ -89,11 +112,11 @@ void RandomPlayback::Load() {
   screen.Overlap.ReadFile();
   screen.Overlap.save.Hide();
   screen.Overlap.save.Disable();
-  if (context_.run.running) {
+  if (context_.air.deck.running()) {
     // A power cut's record has started it: what the load told on the way is over.
-    if (!rotation_missing_) screen.Text1.SetText(PlaybackText(context_.run.StopSetActive == 1));
+    if (!rotation_missing_) context_.air.status.Tell(PlaybackText(context_.run.StopSetActive));
   } else if (!screen.Frame2.visible()) {
-    screen.Text1.SetText("Ready to Begin Playback.  Press START to begin, or QUIT to Exit");
+    context_.air.status.Tell(status_text::kReady);
     screen.Start.SetFocus();
   }
   screen.Timer4.SetInterval(kSettingsTick);
@@ -102,8 +125,7 @@ void RandomPlayback::Load() {
 
 void RandomPlayback::PrepareScreen() {
   RandomForm1& screen = context_.screen;
-  screen.Channels.MMControl1.Command(ChannelCommand::kClose);
-  screen.Channels.MMControl2.Command(ChannelCommand::kClose);
+  context_.air.deck.EndAll(EndCause::kOperator);
   screen.Run.HideBeforeRun();
   screen.Timer2.SetEnabled(true);
   screen.Switches.ReadFiles();  // before a run that the load itself may start: its first item is proof too
@@ -115,7 +137,7 @@ void RandomPlayback::ShowProgress(int count, const char* what) {
   const SteadyTime now = context_.platform.clock.Steady();
   if (SecondsBetween(last_progress_, now) < kProgressSeconds) return;
   last_progress_ = now;
-  context_.screen.Text1.SetText(std::to_string(count) + what);
+  context_.air.status.Tell(std::to_string(count) + what);
   context_.screen.Repaint();
 }
 
@@ -129,7 +151,7 @@ bool RandomPlayback::LoadMusic() {
   music.Clear();
   const int count = GetFileMuscount(files) + 1;
   if (count == 1) {  // none, or just one
-    context_.screen.Text1.SetText("NO MUSIC FILES FOUND");
+    context_.air.status.Tell("NO MUSIC FILES FOUND");
     RefuseLibrary(context_.platform, "Not Enough Music Files",
                   "In order to use this mode, you must first record several music files.  This program\n"
                   "will terminate.  Please record at least three (3) music files before using this mode.");
@@ -161,7 +183,7 @@ void RandomPlayback::LoadLiners() {
                   "will terminate.  Please record at least three (3) Liner files before using this mode.");
   }
   std::vector<std::string> ids = ListRecordings(files, "L*.DAT");
-  context_.screen.Text1.SetText(std::to_string(count) + " Files Found...");
+  context_.air.status.Tell(std::to_string(count) + " Files Found...");
   // Only these two spellings: "lL", "ll" and the "Magic Call" liners stay in the pool.
   std::erase_if(ids, [](const std::string& id) { return id.starts_with("LL") || id.starts_with("Ll"); });
   if (ids.size() < 2) {
@@ -186,7 +208,7 @@ void RandomPlayback::LoadLegalIds() {
                   "In order to use this mode, you must first record several Legal I.D. files.\n"
                   "Legal I.D. files start with LL.  This program will terminate.");
   }
-  context_.screen.Text1.SetText(std::to_string(count) + " Files Found...");
+  context_.air.status.Tell(std::to_string(count) + " Files Found...");
   for (const std::string& id : ListRecordings(files, "LL*.DAT")) {
     legal_ids.Add(ReadLegalId(files, id));
     ShowPoolRow("^ ", legal_ids.row(legal_ids.count()));
@@ -203,22 +225,18 @@ void RandomPlayback::ReadSettings() {
 }
 
 void RandomPlayback::LoadStatus(bool at_load) {
-  RunState& run = context_.run;
   if (at_load) {
     rotation_missing_ = false;
     scheduler_.Reset();
   }
   ReadSettings();
   const RestartRecord record = at_load ? ReadRestartRecord(context_.platform.files) : RestartRecord();
-  run.RestartPending = record.running ? 1 : 0;
   if (record.running) AnnounceRestart();
   if (context_.settings.BreakType == break_type::kScheduledStopSet) {
-    scheduler_.PrepareTemplateChoice();
-    if (record.running) scheduler_.TakeTemplate(record.template_name);  // starts the run when it is found
+    scheduler_.PrepareTemplateChoice(record.running);
+    if (record.running) scheduler_.TakeTemplate(record.template_name);
   }
-  if (run.RestartPending != 1) return;
-  run.RestartPending = 0;
-  controls_.Start();
+  if (record.running) controls_.Start();
 }
 
 void RandomPlayback::AnnounceRestart() {
@@ -235,14 +253,14 @@ void RandomPlayback::LoadSpotRotation() {
   RandomForm1& screen = context_.screen;
   Files& files = context_.platform.files;
   Pool& spots = context_.pools.spots;
-  screen.Text1.SetText("Loading Spot/PSA Rotation File...");
+  context_.air.status.Tell("Loading Spot/PSA Rotation File...");
   screen.List5.Clear();
   screen.List5.AddRow("--Internal Random List--");
   spots.Clear();
   const std::string content = files.Read(station_paths::kRotation).value_or({});
   const std::vector<TemplateEvent> events = EventsToFirstEmpty(content, kMaxTemplateLines);
   if (events.empty()) {
-    screen.Text1.SetText("NO SPOT ROTATION FILES FOUND!!!");
+    context_.air.status.Tell("NO SPOT ROTATION FILES FOUND!!!");
     rotation_missing_ = true;
     context_.settings.BreakType = break_type::kNone;
     return;

@@ -1,31 +1,14 @@
 #include "station/random/sequencing_engine.h"
 
-#include <algorithm>
-#include <chrono>
-
-#include "station/console/logs.h"
 #include "station/console/station_paths.h"
 #include "station/library/item_resolution.h"
 #include "station/library/recording.h"
 #include "station/platform/civil_time.h"
 #include "station/platform/text.h"
 #include "station/random/random_form1.h"
-#include "station/random/random_playback.h"
+#include "station/random/random_run.h"
 
 namespace quixair {
-namespace {
-
-constexpr std::chrono::milliseconds kChannelPollTick{210};
-constexpr std::chrono::milliseconds kOverlapTick{1000};
-
-/// The id at the start of a label's text.
-std::string LeadingId(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-  return std::string(text.substr(0, text.find(' ')));
-}
-
-}  // namespace
-
 std::string PlaybackText(bool stop_set) {
   return stop_set ? std::string(33, ' ') + "Digital Audio Playback in Progress - [Stop Set]"
                   : std::string(48, ' ') + "Digital Audio Playback in Progress";
@@ -44,36 +27,28 @@ void SequencingEngine::PlayNextItem() {
 
 void SequencingEngine::Step() {
   RememberLastItem();
-  if (context_.run.LiveRequested == 1) {
-    HoldForLive();
+  if (context_.air.deck.live.LiveRequested()) {
+    context_.air.HoldForLive();
+    shown_id_.clear();
     return;
   }
+  ItemOrigin origin = ItemOrigin::kLegalId;
   if (!TakeLegalId(item_)) {
-    if (context_.run.StopSetActive == 1) {
+    if (context_.run.StopSetActive) {
       PlayStopSetRow();
       return;
     }
     if (!selection_.Choose(last_item_id_, item_)) return;
+    origin = ItemOrigin::kRotation;
   }
   const WorkingItem item = item_;  // a nested step chooses anew; this one goes on with its own
-  StartItem(item);
+  StartItem(item, origin);
 }
 
 void SequencingEngine::RememberLastItem() {
   RandomForm1& screen = context_.screen;
   for (std::size_t row = 0; row < 2; ++row) screen.LastLabel[row].SetCaption(screen.CurrLabel[row].caption());
-  last_item_id_ = LeadingId(screen.LastLabel[0].caption());
-}
-
-void SequencingEngine::HoldForLive() {
-  RandomForm1& screen = context_.screen;
-  screen.Run.ShowLiveNow();
-  context_.run.AudioPaused = 1;
-  context_.run.live_now = true;
-  context_.run.ItemStartTimer = context_.platform.clock.Steady();
-  screen.CurrLabel[0].SetCaption(" LIVE !");
-  screen.CurrLabel[1].SetCaption(" ");
-  screen.CurrLabel[2].SetCaption(" ");
+  last_item_id_ = shown_id_;
 }
 
 /// Comes before the stop set too.
@@ -90,15 +65,45 @@ bool SequencingEngine::TakeLegalId(WorkingItem& item) {
   return false;
 }
 
-void SequencingEngine::StartItem(const WorkingItem& item) {
-  Started started;
+void SequencingEngine::StartItem(const WorkingItem& item, ItemOrigin origin) {
   if (IsSpotId(item.RecordingId)) CheckSpot(item);
   ShowHint(item);
   ShowItem(item);
-  Play(1, started);
-  StartOnFreeChannel(item, started);
-  Verify(item, started);
-  FinishStep();
+  shown_id_ = item.RecordingId;
+  context_.air.ShowTurn(1);
+  const AirItem air_item = AirItemOf(item, origin);
+  // Behind a nested step the replacement is on the air, and the refused item stands in the proof beside it.
+  if (!StartOnFreeChannel(air_item) && context_.air.deck.AnythingSounds()) context_.proof.Write(air_item);
+  context_.air.EndStep();
+}
+
+/// With neither file there, the path without an extension cannot be opened, and is what gets reported.
+AirItem SequencingEngine::AirItemOf(const WorkingItem& item, ItemOrigin origin) const {
+  const std::string extension =
+      FindAudioFile(context_.platform.files, item.Drive, item.RecordingId).value_or(std::string());
+  return {.id = item.RecordingId,
+          .path = station_paths::AudioFile(item.Drive, item.RecordingId, extension),
+          .first_text = item.first_text,
+          .title = item.Title,
+          .origin = origin};
+}
+
+/// Channel 1 when it does not play; channel 2 when it does and the overlap wants a second item. Behind a
+/// nested step the replacement is on the air already, and nothing more is opened.
+bool SequencingEngine::StartOnFreeChannel(const AirItem& item) {
+  const Deck& deck = context_.air.deck;
+  if (!deck.plays(1)) return BeginOrReplace(1, item);
+  if (!deck.OverlapActive) return false;
+  if (!deck.plays(2)) return BeginOrReplace(2, item);
+  context_.air.ShowTurn(2);
+  return false;
+}
+
+bool SequencingEngine::BeginOrReplace(int channel, const AirItem& item) {
+  if (context_.air.Begin(channel, item)) return true;
+  PlayNextItem();
+  context_.air.ShowTurn(channel);
+  return false;
 }
 
 void SequencingEngine::CheckSpot(const WorkingItem& item) {
@@ -129,7 +134,7 @@ std::optional<std::string> SequencingEngine::RefusalOfSpot(const std::string& id
 }
 
 void SequencingEngine::Refuse(const std::string& row) {
-  context_.faults.Add(row, ' ' + row);
+  context_.air.faults.Add(row, ' ' + row);
 }
 
 void SequencingEngine::ShowHint(const WorkingItem& item) {
@@ -154,84 +159,12 @@ void SequencingEngine::ShowHint(const WorkingItem& item) {
 
 void SequencingEngine::ShowItem(const WorkingItem& item) {
   RandomForm1& screen = context_.screen;
-  screen.Text1.SetText(PlaybackText(context_.run.StopSetActive == 1));
+  context_.air.status.Tell(PlaybackText(context_.run.StopSetActive));
   for (std::size_t row = 0; row < 4; ++row) screen.CurrLabel[row].SetForeColor(kWhite);
   screen.CurrLabel[0].SetCaption(' ' + item.RecordingId + "  " + item.first_text);
   screen.CurrLabel[1].SetCaption(' ' + item.Title);
   screen.CurrLabel[2].SetCaption(" Length:   " + item.Length);
   screen.CurrLabel[3].SetCaption(" Elapsed: ");
-}
-
-/// Also sent before an item is opened, when it does nothing on the closed channel; behind a nested step it
-/// finds the replacement playing, and the labels then tell that channel's file.
-void SequencingEngine::Play(int number, Started& started) {
-  RandomForm1& screen = context_.screen;
-  MediaControl& channel = screen.Channels.channel(number);
-  channel.Command(ChannelCommand::kPlay);
-  started.start_time = HourMinuteSecondAmPm(context_.platform.clock.Now());
-  context_.run.ActiveChannel = number;
-  screen.CurrLabel[2].SetCaption(" Length:   " + ShortestSeconds(channel.Length()));
-  screen.CurrLabel[4].SetCaption('(' + channel.file_name() + ')');
-}
-
-/// Channel 1 when it does not play; channel 2 when it does and the overlap wants a second item. Behind a
-/// nested step the replacement is on the air already, and nothing more is opened.
-void SequencingEngine::StartOnFreeChannel(const WorkingItem& item, Started& started) {
-  const ChannelBank& channels = context_.screen.Channels;
-  if (channels.MMControl1.Mode() != ChannelMode::kPlaying) {
-    OpenAndPlay(1, item, started);
-  } else if (context_.run.OverlapActive == 1) {
-    if (channels.MMControl2.Mode() == ChannelMode::kPlaying) {
-      Play(2, started);
-    } else {
-      OpenAndPlay(2, item, started);
-    }
-  }
-}
-
-void SequencingEngine::OpenAndPlay(int number, const WorkingItem& item, Started& started) {
-  MediaControl& channel = context_.screen.Channels.channel(number);
-  // With neither file there, the path without an extension cannot be opened, and is what gets reported.
-  const auto extension = FindAudioFile(context_.platform.files, item.Drive, item.RecordingId);
-  const std::string path =
-      station_paths::AudioFile(item.Drive, item.RecordingId, extension.value_or(std::string()));
-  if (OpenFile(channel, path) == 0) {
-    ReportEmpty(channel);
-    channel.Command(ChannelCommand::kClose);
-    PlayNextItem();
-  }
-  Play(number, started);
-}
-
-void SequencingEngine::ReportEmpty(const MediaControl& channel) {
-  Refuse(channel.file_name() + " = Empty!!!");
-}
-
-void SequencingEngine::Verify(const WorkingItem& item, const Started& started) {
-  if (!context_.screen.Channels.AnythingSounds())
-    return;  // nothing could be started in its place either: no proof of airing
-  context_.faults.ItemSounds();
-  if (!context_.screen.Switches.verification_on() || !IsVerified(item.RecordingId)) return;
-  const Status written = LogVerification(context_.platform.files, context_.platform.clock.Now(),
-                                         item.RecordingId, LogDescription(item.RecordingId, item.first_text),
-                                         started.start_time, ModeLetter::kRandom);
-  if (written.error() == RunTimeError::kDiskFull) {
-    context_.screen.Text3.SetText(kDriveFullWarning);
-    context_.screen.Text3.Show();
-  } else if (written.ok() && context_.screen.Text3.visible()) {
-    if (context_.screen.Text3.text() == kDriveFullWarning) context_.screen.Text3.SetText("");
-    context_.screen.Text3.Hide();  // there is room again
-  }
-}
-
-void SequencingEngine::FinishStep() {
-  RandomForm1& screen = context_.screen;
-  const CivilTime now = context_.platform.clock.Now();
-  screen.Text2.SetText("Today is: " + DayName(now) + ". " + MonthDayYear(now));
-  context_.run.ItemStartTimer = context_.platform.clock.Steady();
-  screen.Timer2.SetInterval(kChannelPollTick);
-  const bool overlap = screen.Overlap.Settled() != 0;
-  screen.Timer3.SetInterval(overlap ? kOverlapTick : std::chrono::milliseconds(0));
 }
 
 }  // namespace quixair

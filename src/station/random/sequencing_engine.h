@@ -12,11 +12,11 @@
 #include <optional>
 #include <string>
 
+#include "station/onair/air_item.h"
 #include "station/random/item_selection.h"
 
 namespace quixair {
 
-class MediaControl;
 struct RandomContext;
 struct StopSetRow;
 
@@ -28,16 +28,10 @@ class SequencingEngine {
   void PlayNextItem();
 
  private:
-  /// What became of an item on its way to a channel.
-  struct Started {
-    std::string start_time;  // "HH:MM:SS AM/PM", made right after "Play"
-  };
-
   void Step();
   void RememberLastItem();
-  void HoldForLive();
   bool TakeLegalId(WorkingItem& item);
-  void StartItem(const WorkingItem& item);
+  void StartItem(const WorkingItem& item, ItemOrigin origin);
 
   void CheckSpot(const WorkingItem& item);
   /// Why a spot's dates keep it off the air today, when the check is on; none for any other kind.
@@ -45,12 +39,9 @@ class SequencingEngine {
   void Refuse(const std::string& row);
   void ShowHint(const WorkingItem& item);
   void ShowItem(const WorkingItem& item);
-  void StartOnFreeChannel(const WorkingItem& item, Started& started);
-  void OpenAndPlay(int number, const WorkingItem& item, Started& started);
-  void Play(int number, Started& started);
-  void ReportEmpty(const MediaControl& channel);
-  void Verify(const WorkingItem& item, const Started& started);
-  void FinishStep();
+  AirItem AirItemOf(const WorkingItem& item, ItemOrigin origin) const;
+  bool StartOnFreeChannel(const AirItem& item);
+  bool BeginOrReplace(int channel, const AirItem& item);
 
   // stop_set_step.cpp
   void PlayStopSetRow();
@@ -58,11 +49,12 @@ class SequencingEngine {
   void AnnounceTime();
   void PlayStopSetRecording(int number);
   void ShowStopSetItem(const WorkingItem& item);
-  void PlayOnFirst(const std::string& path);
+  void PlayOnFirst(const AirItem& item);
 
   RandomContext& context_;
   ItemSelection selection_;
-  WorkingItem item_;  // what the last choice stood at; a choice may leave it as it is
+  WorkingItem item_;      // what the last choice stood at; a choice may leave it as it is
+  std::string shown_id_;  // of what the labels tell; empty for what is no recording
   std::string last_item_id_;
   int depth_ = 0;
 };

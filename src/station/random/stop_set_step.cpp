@@ -5,19 +5,18 @@
 #include "station/library/recording.h"
 #include "station/platform/civil_time.h"
 #include "station/random/random_form1.h"
-#include "station/random/random_playback.h"
+#include "station/random/random_run.h"
 #include "station/random/sequencing_engine.h"
 
 namespace quixair {
 
 void SequencingEngine::PlayStopSetRow() {
-  RunState& run = context_.run;
-  MediaControl& channel = context_.screen.Channels.MMControl1;
+  RandomRun& run = context_.run;
   ++run.StopSetIndex;
-  channel.Command(ChannelCommand::kClose);
+  context_.air.deck.End(1, EndCause::kEndOfFile);
   const bool past_the_end = run.StopSetIndex > context_.stop_sets.count();
   if (past_the_end || context_.stop_sets.row(run.StopSetIndex).kind == EventKind::kLocalBreak) {
-    run.StopSetActive = 0;  // the watcher finds both channels closed and goes back to the rotation
+    run.StopSetActive = false;  // the watcher finds both channels closed and goes back to the rotation
     run.StopSetIndex = 0;
     context_.screen.List7.Select(-1);
     return;
@@ -38,7 +37,6 @@ void SequencingEngine::PlayStopSetRow() {
 
 void SequencingEngine::PauseInStopSet(const StopSetRow& row) {
   RandomForm1& screen = context_.screen;
-  RunState& run = context_.run;
   const int override_seconds = context_.settings.PauseOverrideSecs;
   const std::string length = override_seconds == 0 ? "[Override is OFF]" : std::to_string(override_seconds);
   ShowStopSetItem({.RecordingId = row.text(),
@@ -46,11 +44,9 @@ void SequencingEngine::PauseInStopSet(const StopSetRow& row) {
                    .first_text = {},
                    .Title = "Audio is Paused",
                    .Length = length});
-  screen.Text1.SetText(std::string(22, ' ') + "Audio Paused... Press <Begin Next> to Resume.");
+  context_.air.status.Tell(status_text::kPauseEvent);
   screen.CurrLabel[4].SetCaption("");
-  run.ItemStartTimer = context_.platform.clock.Steady();
-  run.pause_started = run.ItemStartTimer;
-  run.AudioPaused = 1;
+  context_.air.deck.HoldFor(Hold::kPauseEvent);
 }
 
 void SequencingEngine::AnnounceTime() {
@@ -65,7 +61,12 @@ void SequencingEngine::AnnounceTime() {
   screen.CurrLabel[0].SetCaption("Playing Current Time");
   screen.CurrLabel[1].SetCaption(FourDigitHourMinute(now));
   screen.CurrLabel[3].SetCaption(" ");
-  PlayOnFirst(path);
+  PlayOnFirst({.id = {},
+               .path = path,
+               .first_text = {},
+               .title = screen.CurrLabel[0].caption(),
+               .origin = ItemOrigin::kStopSet,
+               .row = context_.run.StopSetIndex});
 }
 
 /// A row that is refused hands over to the next one and ends here. The rows are told by their number, which
@@ -86,15 +87,18 @@ void SequencingEngine::PlayStopSetRecording(int number) {
     PlayNextItem();
     return;
   }
-  // With its mark in front the id is of no kind that the verification log takes: stop sets do not stand in
-  // it, which stations are used to.
-  ShowStopSetItem({.RecordingId = row.text(),
-                   .Drive = row.Drive,
-                   .first_text = row.second,
-                   .Title = row.Title,
-                   .Length = row.Length});
-  const std::string extension = FindAudioFile(files, row.Drive, row.EventId).value_or(std::string());
-  PlayOnFirst(station_paths::AudioFile(row.Drive, row.EventId, extension));
+  const WorkingItem item{.RecordingId = row.EventId,
+                         .Drive = row.Drive,
+                         .first_text = row.second,
+                         .Title = row.Title,
+                         .Length = row.Length};
+  WorkingItem shown = item;
+  shown.RecordingId = row.text();
+  ShowStopSetItem(shown);
+  shown_id_ = row.EventId;
+  AirItem air_item = AirItemOf(item, ItemOrigin::kStopSet);
+  air_item.row = number;
+  PlayOnFirst(air_item);
 }
 
 void SequencingEngine::ShowStopSetItem(const WorkingItem& item) {
@@ -102,21 +106,16 @@ void SequencingEngine::ShowStopSetItem(const WorkingItem& item) {
   screen.Text7.Show();
   screen.Text7.SetText("STOP-SET PLAYING");
   ShowItem(item);
+  shown_id_.clear();
   for (std::size_t label = 0; label < 4; ++label) screen.CurrLabel[label].SetForeColor(kYellow);
 }
 
-void SequencingEngine::PlayOnFirst(const std::string& path) {
-  MediaControl& channel = context_.screen.Channels.MMControl1;
-  if (OpenFile(channel, path) == 0) {
-    ReportEmpty(channel);
-    channel.Command(ChannelCommand::kClose);
+void SequencingEngine::PlayOnFirst(const AirItem& item) {
+  if (!context_.air.Begin(1, item)) {
     PlayNextItem();
     return;
   }
-  Started started;
-  Play(1, started);
-  context_.faults.ItemSounds();
-  FinishStep();
+  context_.air.EndStep();
 }
 
 }  // namespace quixair

@@ -49,7 +49,7 @@ TEST_F(AirFaults, Outage_WritesFiftyLinesAndThenOneAMinute) {
 
 TEST_F(AirFaults, ItemSounds_TheNextFaultIsNewsAgain) {
   FailFor(30s);
-  log_.ItemSounds();
+  log_.ItemBegan(1, AirItem());
   FailFor(1s);
   EXPECT_EQ(LoggedLines(), 55);
 }
