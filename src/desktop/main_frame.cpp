@@ -36,7 +36,7 @@ class ScreenArea : public QMdiArea {
     painter.setOpacity(kMarkOpacity);
     QRect place(0, 0, kMarkSide, kMarkSide);
     place.moveCenter(viewport()->rect().center() - QPoint(0, kMarkSide / 3));
-    ProgramIcon().paint(&painter, place);
+    windowIcon().paint(&painter, place);  // the frame's: one made here would stay in the toolkit's cache
     QFont large = font();
     large.setPointSize(kMarkPoints);
     large.setBold(true);

@@ -6,7 +6,6 @@
 #include <QMdiSubWindow>
 #include <QScreen>
 
-#include "desktop/program_icon.h"
 #include "desktop/station_text.h"
 #include "station/platform/event_gate.h"
 
@@ -19,7 +18,7 @@ ScreenWindow::ScreenWindow(Screen& screen, QWidget* form, QMdiArea& area)
   } else {
     child_ = new QMdiSubWindow;
     child_->setAttribute(Qt::WA_DeleteOnClose, false);
-    child_->setWindowIcon(ProgramIcon());
+    child_->setWindowIcon(area.windowIcon());
     child_->setWidget(form);
     window_ = child_;
     area.addSubWindow(child_);
