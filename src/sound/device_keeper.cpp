@@ -13,7 +13,8 @@ constexpr milliseconds kLostAfterNoCall{500};
 constexpr milliseconds kLongestPause{150};
 constexpr milliseconds kEvenFor{250};
 constexpr milliseconds kEvenWithin{2500};
-constexpr seconds kBetweenTries{1};
+// A try costs a millisecond or two, and what a server that is back has to wait for it is silence.
+constexpr milliseconds kBetweenTries{250};
 // Opening beside a hung device may hang as well, so it first gets the chance to come to.
 constexpr seconds kPatienceWithHung{5};
 constexpr seconds kBetweenSpeakerLooks{2};

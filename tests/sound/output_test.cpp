@@ -16,6 +16,9 @@ using std::chrono::microseconds;
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
+// From a sound server's return to sound, a server's own part of a second left aside.
+constexpr milliseconds kBackWithin{700};
+
 // What the rules of the tests set, and what they look at.
 struct Machine {
   bool server_up = true;
@@ -164,7 +167,7 @@ TEST_F(KeepingADevice, ALongOutageIsOverWhenTheDriverStartedAnewOpens) {
   EXPECT_EQ(keeper_.trouble(), Trouble::kDeviceLost);
   EXPECT_FALSE(Heard(milliseconds(100))) << "a dead device was still fed";
   machine_.server_up = true;
-  EXPECT_TRUE(Heard(seconds(3)));
+  EXPECT_TRUE(Heard(kBackWithin));
   EXPECT_EQ(keeper_.trouble(), Trouble::kNone);
   ASSERT_GE(machine_.seen.size(), 4U);
   EXPECT_EQ((std::vector<std::string>(machine_.seen.begin(), machine_.seen.begin() + 3)),
@@ -197,8 +200,11 @@ TEST_F(KeepingADevice, AfterSecondsOfHangingAnotherIsOpened) {
 TEST_F(KeepingADevice, ASecondChoiceThatFailsStartsTheDriverAnew) {
   machine_.first_choice = false;
   machine_.server_up = false;
-  Run(milliseconds(2'500));
+  Run(milliseconds(700));
   EXPECT_EQ(machine_.seen, (std::vector<std::string>{"start", "stop", "start", "stop", "start", "stop"}));
+  machine_.first_choice = true;
+  machine_.server_up = true;
+  EXPECT_TRUE(Heard(kBackWithin));
 }
 
 TEST_F(KeepingADevice, AnOutputWithoutLoudspeakerIsTrouble) {
@@ -223,7 +229,8 @@ TEST_F(KeepingADevice, PositionsKeepRealTimeThroughEveryAccident) {
   machine_.server_up = true;
   machine_.hung = false;
   Run(seconds(2));
-  EXPECT_NEAR(stream_->PositionMs(), static_cast<double>((now_ - start_) / milliseconds(1)), 2 * 43);
+  // Each device that is taken on may cost a part of its first buffer.
+  EXPECT_NEAR(stream_->PositionMs(), static_cast<double>((now_ - start_) / milliseconds(1)), 3 * 43);
   EXPECT_EQ(mixer_.underruns(), 0U);
 }
 
