@@ -58,10 +58,6 @@ std::unique_ptr<Decoder> OpenDecoder(const std::filesystem::path& path, const Fi
   return nullptr;
 }
 
-std::int32_t MeasureLengthMs(const std::filesystem::path& path) {
-  return ExamineFile(path).length_ms;
-}
-
 std::int32_t MillisecondsOf(std::int64_t frames, int rate) {
   if (frames <= 0 || rate <= 0) return 0;
   const std::int64_t whole_seconds = frames / rate;

@@ -50,9 +50,6 @@ FileFacts ExamineFile(const std::filesystem::path& path);
 /// At the first frame; none when the file cannot be opened any more as what `facts` tell.
 std::unique_ptr<Decoder> OpenDecoder(const std::filesystem::path& path, const FileFacts& facts);
 
-/// Length in milliseconds, 0 when unplayable. Looks through the file each time; see LengthCache.
-std::int32_t MeasureLengthMs(const std::filesystem::path& path);
-
 /// round(1000 * frames / rate), held within the range of the result.
 std::int32_t MillisecondsOf(std::int64_t frames, int rate);
 

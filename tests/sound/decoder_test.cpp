@@ -64,7 +64,7 @@ TEST_P(WaveFormats, GivesTheSineInExactLength) {
   const std::vector<StereoFrame> decoded = DecodedAtMixRate(path);
   SF_INFO info{};
   sf_close(sf_open(path.c_str(), SFM_READ, &info));  // ADPCM fills up its last block
-  EXPECT_EQ(MeasureLengthMs(path), std::lround(1000.0 * static_cast<double>(info.frames) / wave.rate));
+  EXPECT_EQ(ExamineFile(path).length_ms, std::lround(1000.0 * static_cast<double>(info.frames) / wave.rate));
   EXPECT_EQ(decoded.size(), std::lround(static_cast<double>(info.frames) * kMixRate / wave.rate));
   ASSERT_GE(info.frames, static_cast<sf_count_t>(frames));
   const std::vector<StereoFrame> sounding(decoded.begin(), decoded.begin() + kMixRate);
@@ -152,7 +152,7 @@ class MpegFiles : public testing::TestWithParam<MpegCase> {};
 TEST_P(MpegFiles, PlaysAllThatIsThereAndTellsItsLength) {
   const SoundFiles files;
   const auto path = files.Write("misnamed.wav", GetParam().bytes());
-  const std::int32_t length_ms = MeasureLengthMs(path);
+  const std::int32_t length_ms = ExamineFile(path).length_ms;
   EXPECT_NEAR(length_ms, GetParam().length_ms, GetParam().tolerance_ms);
   const std::vector<StereoFrame> decoded = DecodedAtMixRate(path);
   EXPECT_NEAR(static_cast<double>(decoded.size()) * 1000 / kMixRate, length_ms, 1.0);
@@ -200,7 +200,7 @@ TEST_P(UnplayableFiles, AreToldQuickly) {
   const SoundFiles files;
   const auto path = files.Write("thing.mp3", GetParam().bytes());
   const auto start = std::chrono::steady_clock::now();
-  EXPECT_EQ(MeasureLengthMs(path), 0);
+  EXPECT_EQ(ExamineFile(path).length_ms, 0);
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
   EXPECT_EQ(OpenDecoder(path, ExamineFile(path)), nullptr);
 }
@@ -210,8 +210,8 @@ INSTANTIATE_TEST_SUITE_P(All, UnplayableFiles, testing::ValuesIn(UnplayableCases
 
 TEST(UnplayablePaths, FoldersAndMissingFilesHaveNoLength) {
   const SoundFiles files;
-  EXPECT_EQ(MeasureLengthMs(files.Path("")), 0);
-  EXPECT_EQ(MeasureLengthMs(files.Path("missing.wav")), 0);
+  EXPECT_EQ(ExamineFile(files.Path("")).length_ms, 0);
+  EXPECT_EQ(ExamineFile(files.Path("missing.wav")).length_ms, 0);
 }
 
 struct LyingHeaderCase {

@@ -36,10 +36,6 @@ void CaptureMeters::Leave() {
   recorder_ = nullptr;
 }
 
-bool CaptureMeters::clipped(int side) const {
-  return sides_.at(static_cast<std::size_t>(side)).clipped_for > 0;
-}
-
 void CaptureMeters::Look() {
   const double seconds = static_cast<double>(since_look_.restart()) / 1000;
   const Levels peaks = recorder_->TakeLevels();

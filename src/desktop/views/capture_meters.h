@@ -26,9 +26,6 @@ class CaptureMeters : public QWidget, public ScreenView {
   QSize sizeHint() const override { return {420, 140}; }
   QSize minimumSizeHint() const override { return {240, 100}; }
 
-  /// Whether a mark for full scale is shown, left or right.
-  bool clipped(int side) const;
-
  protected:
   void paintEvent(QPaintEvent* event) override;
 

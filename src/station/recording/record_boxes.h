@@ -51,8 +51,7 @@ class RecordBoxes {
   void Show(const Recording& recording);
   /// As typed: the id without its letter, the drive as its box shows it; a kill date without any figure is empty.
   void PutInto(Recording& recording) const;
-  /// Id, data fields and dates; length and drive are never typed.
-  void EnableId(bool enabled) { id_->Enable(enabled); }
+  /// Data fields and dates; length and drive are never typed.
   void EnableData(bool enabled);
   void Clear();
   /// Start is today.
