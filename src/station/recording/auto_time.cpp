@@ -163,7 +163,7 @@ void RecordTimes::PrepareAgain(const ScreenOpening&) {
 }
 
 void RecordTimes::CloseWindow() {
-  if (recorder.MMWaveRecorderX.capturing()) recorder.Stop();
+  if (recorder.MMWaveRecorderX.capturing()) recorder.Finish(Ending::kByOperator);
   Unload();
 }
 

@@ -21,7 +21,7 @@ constexpr milliseconds kEndInterval{1000};
 
 CaptureScreen::CaptureScreen(const Platform& platform, const CaptureKind& kind)
     : Screen(platform, kind.screen, kind.title), data(*this, kind.kind, TextBox::Use::kShow), kind_(kind) {
-  recorder.on_saved = [this](const std::string& seconds) { return Save(seconds); };
+  recorder.on_saved = [this](const std::string& seconds, Ending ending) { return Save(seconds, ending); };
   recorder.NowExit.on_click = [this] { BackToEntry(); };
   recorder.CancelButton.on_click = [this] { Erase(); };
 }
@@ -40,17 +40,12 @@ void CaptureScreen::PrepareAgain(const ScreenOpening&) {
 }
 
 void CaptureScreen::CloseWindow() {
-  if (recorder.MMWaveRecorderX.capturing()) recorder.Stop();
+  if (recorder.MMWaveRecorderX.capturing()) recorder.Finish(Ending::kByOperator);
   Unload();
 }
 
 void CaptureScreen::ProgramEnds() {
-  if (!recorder.MMWaveRecorderX.capturing()) return;
-  recorder.on_saved = [this](const std::string& seconds) {
-    SkipAndGoOn(WriteDataFile(seconds));
-    return true;
-  };
-  recorder.Stop();
+  if (recorder.MMWaveRecorderX.capturing()) recorder.Finish(Ending::kProgramEnds);
 }
 
 std::string CaptureScreen::DataPath() const {
@@ -64,10 +59,10 @@ Status CaptureScreen::WriteDataFile(const std::string& seconds) {
   return platform_.files.Write(DataPath(), recording_.Format() + empty.bytes(), Durability::kFlushed);
 }
 
-bool CaptureScreen::Save(const std::string& seconds) {
+bool CaptureScreen::Save(const std::string& seconds, Ending ending) {
   const Status written = WriteDataFile(seconds);
   data.Show(recording_);
-  if (written.ok()) return true;
+  if (written.ok() || ending == Ending::kProgramEnds || ending == Ending::kOnceMore) return written.ok();
   recorder.Text6.SetText("The data file was not written; the recording is " + recorder.path);
   TellFileFault(platform_.dialogs, written,
                 "The audio is recorded; its length was not written to " + DataPath());
@@ -93,12 +88,18 @@ RecordITSpot::RecordITSpot(const Platform& platform) : CaptureScreen(platform, k
     Timer2.SetInterval(kEndInterval);
     Timer2.SetEnabled(true);
   };
-  // A Stop by hand leaves the timer on, which then writes the same data once more: wanted.
+  // A Stop by hand leaves the timer on, which then writes the same length once more: wanted, a data file that
+  // was busy the first time gets it the second.
   Timer2.on_tick = [this] {
     if (recorder.MMWaveRecorderX.capturing()) return;
     Timer2.SetEnabled(false);
-    recorder.Stop();
+    recorder.Finish(Ending::kOnceMore);
   };
+}
+
+void RecordITSpot::Load() {
+  Timer2.SetEnabled(false);  // it is for the spot before
+  CaptureScreen::Load();
 }
 
 void RecordITSpot::SetLimit() {

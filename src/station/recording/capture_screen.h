@@ -39,7 +39,7 @@ class CaptureScreen : public Screen {
 
  private:
   Status WriteDataFile(const std::string& seconds);
-  bool Save(const std::string& seconds);
+  bool Save(const std::string& seconds, Ending ending);
   std::string DataPath() const;
   void Erase();
   void BackToEntry();
@@ -51,6 +51,7 @@ class CaptureScreen : public Screen {
 class RecordITSpot : public CaptureScreen {
  public:
   explicit RecordITSpot(const Platform& platform);
+  void Load() override;
 
   Label Label17{*this, "Label17"};  // "out of 30 Secs."
   Timer Timer2{*this, "Timer2"};    // sees the end of a capture that reached its length

@@ -40,7 +40,7 @@ RecorderPanel::RecorderPanel(Screen& screen)
 
 void RecorderPanel::Connect() {
   RecordBtn.on_click = [this] { Start(); };
-  StopBtn.on_click = [this] { Stop(); };
+  StopBtn.on_click = [this] { Finish(Ending::kByOperator); };
   Command1.on_click = [this] { Audition(); };
   changesettingsButton.on_click = [this] {
     MMWaveRecorderX.LoadFormat();
@@ -59,7 +59,7 @@ void RecorderPanel::Connect() {
     RecordBtn.Enable();
     StopBtn.Disable();
     NowExit.SetFocus();
-    if (!stopping_) CaptureEnded();
+    if (!ending_) Finish(Ending::kByItself);
   };
   MMWaveRecorderX.on_progress = [this] { ShowProgress(); };
   Timer1.on_tick = [this] { PlayPos.SetCaption(ShortestSeconds(MMControl1.Position()) + " Seconds"); };
@@ -101,28 +101,27 @@ void RecorderPanel::Start() {
   TellFileFault(screen_.platform().dialogs, started, "Nothing was recorded.");
 }
 
-/// At its limit, or since the disk is full or the input has gone: what there is is saved without the operator.
-void RecorderPanel::CaptureEnded() {
+void RecorderPanel::Finish(Ending ending) {
   const std::string trouble = MMWaveRecorderX.Trouble();
-  Stop();
-  if (!trouble.empty()) {
-    screen_.platform().dialogs.MessageBox(trouble, box_style::kExclamation, "Recording Has Ended");
-  }
-}
-
-void RecorderPanel::Stop() {
-  stopping_ = true;
-  MMWaveRecorderX.Stop();
-  stopping_ = false;
-  MMControl1.Enable();
-  MMControl1.Command(ChannelCommand::kClose);
-  Text6.SetText("Writing Data file to Disk");
-  const bool written = !on_saved || on_saved(FixedDecimals(MMWaveRecorderX.RecordedLength() / 1000.0, 1));
-  MMControl1.Command(ChannelCommand::kClose);
+  if (ending != Ending::kOnceMore) EndCapture();
+  const std::string seconds = FixedDecimals(MMWaveRecorderX.RecordedLength() / 1000.0, 1);
+  const bool written = !on_saved || on_saved(seconds, ending);
   EnableChoices(true);
   if (written) {
     Text6.SetText("File Saved: Click 'Exit' for New File, 'Start' to Re-Record, 'Audition' to Listen.");
   }
+  if (ending == Ending::kByItself && !trouble.empty()) {
+    screen_.platform().dialogs.MessageBox(trouble, box_style::kExclamation, "Recording Has Ended");
+  }
+}
+
+void RecorderPanel::EndCapture() {
+  ending_ = true;
+  MMWaveRecorderX.Stop();
+  ending_ = false;
+  MMControl1.Enable();
+  MMControl1.Command(ChannelCommand::kClose);
+  Text6.SetText("Writing Data file to Disk");
 }
 
 bool RecorderPanel::EraseConfirmed(const std::string& name) {

@@ -16,6 +16,14 @@ namespace quixair {
 /// Serves as no limit: 10,000 seconds.
 inline constexpr std::chrono::milliseconds kNoLimit{10'000'000};
 
+/// How a capture comes to its end.
+enum class Ending {
+  kByOperator,
+  kByItself,     // at its limit, or by a fault of the disk or the input, which is told
+  kProgramEnds,  // nobody can answer a box
+  kOnceMore,     // it has ended already: its length is saved again, and nothing else is touched
+};
+
 class RecorderPanel {
  public:
   explicit RecorderPanel(Screen& screen);
@@ -41,19 +49,19 @@ class RecorderPanel {
   std::function<void()> on_start;      // before a capture: `limit` can still be set
   std::function<void()> on_recording;  // it has begun
   /// A capture is over: seconds with one decimal. False when what is to be written could not be.
-  std::function<bool(const std::string& seconds)> on_saved;
+  std::function<bool(const std::string& seconds, Ending ending)> on_saved;
 
   /// The screen is ready for the first capture.
   void Prepare();
   void Start();
-  /// Ends the capture, if one runs, and has what there is saved; a second time does the same again.
-  void Stop();
+  /// Ends the capture, if one runs, and has what there is saved.
+  void Finish(Ending ending);
   /// Asks whether the recording is to go; the channel lets go of it when it is.
   bool EraseConfirmed(const std::string& name);
 
  private:
   void Connect();
-  void CaptureEnded();
+  void EndCapture();
   void ShowFormat();
   void ShowProgress();
   void Audition();
@@ -61,7 +69,7 @@ class RecorderPanel {
   void EnableChoices(bool enabled);
 
   Screen& screen_;
-  bool stopping_ = false;
+  bool ending_ = false;  // the capture does not end by itself
 };
 
 }  // namespace quixair

@@ -162,6 +162,56 @@ TEST_F(CaptureScreens, DataFileThatCannotBeWritten_IsToldAndStopTriesAgain) {
   EXPECT_TRUE(station_.running());
 }
 
+class SpotStoppedByHand : public CaptureScreens {
+ protected:
+  SpotStoppedByHand() {
+    HandOverSpot("30");
+    Click(kSpot, "RecordBtn");
+    Advance(8500ms);
+  }
+};
+
+TEST_F(SpotStoppedByHand, AuditionBegunAtOnce_PlaysOnWhileTheDataIsWrittenAgain) {
+  Click(kSpot, "StopBtn");
+  PutFile("QXWAVE/S1.WAV", "8500");
+  Click(kSpot, "Command1");
+  auto& channel = Find<MediaControl>(kSpot, "MMControl1");
+  channel.ClickPlay();
+  std::filesystem::remove(Host("QXDATA/S1.DAT"));
+  Advance(2s);
+  EXPECT_THAT(FileText("QXDATA/S1.DAT"), StartsWith("\"8.5\"")) << "written again";
+  EXPECT_EQ(channel.Mode(), ChannelMode::kPlaying);
+  EXPECT_EQ(Shown(kSpot, "PlayPos"), "2 Seconds");
+}
+
+TEST_F(SpotStoppedByHand, NextSpotSentHereAtOnce_KeepsItsOwnLength) {
+  Click(kSpot, "StopBtn");
+  Menu("Spots");
+  Click("RecordSpot", "Command1");
+  Fill("RecordSpot", "Text2", "2");
+  Click("RecordSpot", "Command9");
+  EXPECT_EQ(Shown(kSpot, "Text2"), "S2");
+  Advance(2s);
+  EXPECT_THAT(FileText("QXDATA/S2.DAT"), StartsWith("\"[New]\""));
+}
+
+TEST_F(SpotStoppedByHand, DataFileBusyForAMoment_IsToldOnceAndWrittenTheSecondTime) {
+  std::filesystem::rename(Host("QXDATA"), Host("AWAY"));
+  station_.dialogs().on_box = [this](const auto&) { Advance(1500ms); };
+  QueueAnswer("OK");
+  Click(kSpot, "StopBtn");
+  station_.dialogs().on_box = nullptr;
+  EXPECT_EQ(boxes().size(), 1U) << "and none over it";
+  Click(kSpot, "RecordBtn");
+  Advance(3s);
+  QueueAnswer("OK");
+  Click(kSpot, "StopBtn");
+  std::filesystem::rename(Host("AWAY"), Host("QXDATA"));
+  Advance(1s);
+  EXPECT_THAT(FileText("QXDATA/S1.DAT"), StartsWith("\"3.0\""));
+  EXPECT_EQ(Shown(kSpot, "Text6"), kSaved);
+}
+
 TEST_F(CaptureScreens, WindowOrProgramClosedInMidCapture_SavesWhatThereIs) {
   for (const char* closed : {kSong, "Console"}) {
     SCOPED_TRACE(closed);
