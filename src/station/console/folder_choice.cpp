@@ -34,7 +34,10 @@ void FolderChoice::ShowFirst() {
 }
 
 void FolderChoice::GoTo(const std::string& path) {
-  if (path.empty() || Show(path).error() != RunTimeError::kDiskNotReady) return;
+  if (path.empty()) return;
+  Status shown = Show(path);
+  if (shown.error() == RunTimeError::kPathNotFound) shown = Show(RootOf(path.front()));
+  if (shown.error() != RunTimeError::kDiskNotReady) return;
   TellDriveMissing(drives_.screen().platform().dialogs, path.front());
 }
 

@@ -26,8 +26,8 @@ class FolderChoice {
 
   /// Drive C and its root; raises no event.
   void ShowFirst();
-  /// Raises no event; the lists stay where they were when it cannot be shown, told by a box when the drive is
-  /// not there.
+  /// Raises no event. A folder that has gone leaves the root of its drive on view; when the drive is not there
+  /// the lists stay where they were, told by a box.
   void GoTo(const std::string& path);
 
  private:

@@ -18,6 +18,9 @@ namespace {
 constexpr int kFieldLimit = 20;
 constexpr int kYearLimit = 4;
 constexpr std::size_t kLeftOutShown = 5;
+constexpr std::chrono::seconds kTimeForStop{2};
+constexpr const char* kImporting =
+    "Importing...  Click 'Stop' to stop after the file that is being imported.";
 constexpr const char* kReady = "Click the Import button to create the new file(s)..";
 constexpr const char* kBoxTitle = "Quixair";
 
@@ -146,13 +149,14 @@ void ImportWinAuto::Import() {
                    .next = 0,
                    .imported = 0,
                    .stop = false,
-                   .left_out = {}});
+                   .left_out = {},
+                   .not_before = {}});
   std::sort(rows.begin(), rows.end());
   for (const int row : rows) {
     run_->names.push_back(File2.row(row));
     run_->sources.insert(UpperCased(Dir1.FileIn(File2.row(row))));
   }
-  Text1.SetText("Importing...  Click 'Stop' to stop after the file that is being imported.");
+  Text1.SetText(kImporting);
   Command2.SetCaption("&Stop");
   ShowProgress();
   Work(true);
@@ -162,7 +166,7 @@ void ImportWinAuto::Import() {
 void ImportWinAuto::Step() {
   if (import_.IsBusy()) {
     import_.Step();
-  } else {
+  } else if (run_->stop || platform_.clock.Steady() >= run_->not_before) {
     NextFile();
   }
   if (run_) ShowProgress();
@@ -170,6 +174,7 @@ void ImportWinAuto::Step() {
 
 void ImportWinAuto::NextFile() {
   if (run_->stop || run_->next == run_->names.size()) return EndRun();
+  Text1.SetText(kImporting);
   const std::string& name = run_->names[run_->next];
   const NameFields fields = FieldsFromName(name);
   Text2.SetText(fields.artist);
@@ -185,7 +190,7 @@ void ImportWinAuto::NextFile() {
   const AudioImport::Job job{.folder = Dir1.path(), .name = name, .id = *id, .drive = TargetDrive()};
   if (AudioImport::IsOntoItself(platform_.files, job) || WouldRemoveASource(job)) {
     if (Check1.ticked()) TellOntoItself();
-    return LeaveOut();
+    return LeaveOut("would overwrite a file chosen");
   }
   import_.Examine(job);
 }
@@ -216,10 +221,13 @@ bool ImportWinAuto::WouldRemoveASource(const AudioImport::Job& job) const {
 void ImportWinAuto::Examined(bool playable) {
   if (!playable) {
     if (Check1.ticked()) TellUnplayable(import_.job().name);
-    return LeaveOut();
+    return LeaveOut("cannot be played");
   }
-  if (Check1.ticked() && !MayOverwrite(import_.job())) return EndRun();
-  import_.Copy();
+  if (!Check1.ticked() || MayOverwrite(import_.job())) return import_.Copy();
+  // The next question would come at once, for ever in the way of the one who cancels since he wants no more.
+  run_->not_before = platform_.clock.Steady() + kTimeForStop;
+  Text1.SetText("Left out " + import_.job().name + ".  Click 'Stop' to import no more files.");
+  LeaveOut("cancelled");
 }
 
 void ImportWinAuto::Copied(std::optional<std::string> length) {
@@ -251,14 +259,16 @@ Status ImportWinAuto::WriteSong(const std::string& id) {
   return song.Write(platform_.files, Durability::kOrdinary);
 }
 
-void ImportWinAuto::LeaveOut() {
-  run_->left_out.push_back(run_->names[run_->next]);
+void ImportWinAuto::LeaveOut(const char* reason) {
+  run_->left_out.push_back(run_->names[run_->next] + " (" + reason + ')');
   ++run_->next;
 }
 
 void ImportWinAuto::Failed() {
   EndRun();
+  const std::string told = Progress.caption();
   StartOver();
+  Progress.SetCaption(told);
 }
 
 void ImportWinAuto::ShowProgress() {
@@ -273,7 +283,7 @@ void ImportWinAuto::EndRun() {
   std::string told =
       std::to_string(run.imported) + " of " + std::to_string(run.names.size()) + " files imported.";
   if (!run.left_out.empty()) {
-    told += "  Left out (not playable, or in the way of itself):";
+    told += "  Left out:";
     const std::size_t shown = std::min(run.left_out.size(), kLeftOutShown);
     for (std::size_t i = 0; i < shown; ++i) told += (i == 0 ? " " : ", ") + run.left_out[i];
     if (shown < run.left_out.size()) told += " and " + std::to_string(run.left_out.size() - shown) + " more";
@@ -310,7 +320,8 @@ void ImportWinAuto::ShowHelp() {
       "The first 20 letters of the file name become the artist, the next 20 the title, the present year the "
       "year.  With 'Ask Before Importing Each Selected File' ticked you can change them for each file.  "
       "Without the tick all selected files are imported without a question.\n\n"
-      "A file that cannot be played is left out.  Stop ends the import after the present file.",
+      "A file that cannot be played is left out, and one whose question you cancel.  Stop ends the import "
+      "after the present file.",
       box_style::kOk + box_style::kInformation, "How to use the Fast Importer");
 }
 

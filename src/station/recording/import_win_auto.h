@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "station/platform/clock.h"
 #include "station/recording/import_screen.h"
 #include "station/recording/song_from_file.h"
 
@@ -49,7 +50,8 @@ class ImportWinAuto : public ImportScreen {
     std::size_t next = 0;           // the file in turn
     std::size_t imported = 0;
     bool stop = false;
-    std::vector<std::string> left_out;
+    std::vector<std::string> left_out;  // with the reason
+    SteadyTime not_before{};            // the next file has to wait so long
   };
 
   void StartOver();
@@ -65,7 +67,8 @@ class ImportWinAuto : public ImportScreen {
   /// The id's old audio is a file that this run is to import, perhaps later.
   bool WouldRemoveASource(const AudioImport::Job& job) const;
   Status WriteSong(const std::string& id);
-  void LeaveOut();
+  /// The file in turn; `reason` is told at the end.
+  void LeaveOut(const char* reason);
   void ShowProgress();
   void EndRun();
   void TellEndOfSeries();

@@ -123,16 +123,32 @@ TEST_F(ImportWinAutoTest, Asking_TakesTheAnswersAndTellsTheLength) {
   EXPECT_EQ(Field("MThe1", 8), "1999");
 }
 
-TEST_F(ImportWinAutoTest, CancelOfTheQuestion_EndsTheImportWithWhatIsWhole) {
-  PutSource("abc.wav", 3000);
-  PutSource("def.wav", 3000);
+TEST_F(ImportWinAutoTest, CancelOfTheQuestion_LeavesOutThatFileAlone) {
+  for (const char* name : {"abc.wav", "def.wav", "ghi.wav"}) PutSource(name, 3000);
+  Open("Option1", true);
+  for (const char* name : {"abc", "def", "ghi"}) {
+    for (const char* answer : {"A", "B", "2000"}) QueueAnswer(answer);
+    QueueAnswer(name == std::string("def") ? "Cancel" : "OK");
+    if (name != std::string("def")) QueueAnswer("OK");
+  }
+  ImportWhole({"abc.wav", "def.wav", "ghi.wav"});
+  EXPECT_EQ(FilesIn("QXDATA"), (std::vector<std::string>{"Mabc1.DAT", "Mghi1.DAT"}));
+  EXPECT_EQ(FilesIn("QXWAVE"), (std::vector<std::string>{"Mabc1.wav", "Mghi1.wav"}));
+  EXPECT_EQ(Shown(kAuto, "Progress"), "2 of 3 files imported.  Left out: def.wav (cancelled)");
+}
+
+TEST_F(ImportWinAutoTest, StopBehindACancel_LeavesTheOtherFilesUnasked) {
+  for (const char* name : {"abc.wav", "def.wav"}) PutSource(name, 3000);
   Open("Option1", true);
   for (const char* answer : {"A", "B", "2000", "Cancel"}) QueueAnswer(answer);
   Import({"abc.wav", "def.wav"});
+  Advance(1500ms);
+  EXPECT_EQ(Shown(kAuto, "Text1"), "Left out abc.wav.  Click 'Stop' to import no more files.");
+  Click(kAuto, "Command2");
   Advance(1min);
-  EXPECT_TRUE(FilesIn("QXDATA").empty());
-  EXPECT_TRUE(FilesIn("QXWAVE").empty());
-  EXPECT_TRUE(Find<Button>(kAuto, "Command1").enabled());
+  EXPECT_EQ(boxes().size(), 4U);
+  EXPECT_EQ(Shown(kAuto, "Text1"), "The import was stopped.");
+  EXPECT_EQ(Shown(kAuto, "Progress"), "0 of 2 files imported.  Left out: abc.wav (cancelled)");
 }
 
 TEST_F(ImportWinAutoTest, Stop_EndsBetweenTwoFiles) {
@@ -174,8 +190,7 @@ TEST_F(ImportWinAutoTest, UnplayableFiles_AreLeftOutAndTold) {
     }
     ImportWhole({"abc.wav", "abd.mp3", "abe.wav"});
     EXPECT_EQ(boxes().size(), before);
-    EXPECT_EQ(Shown(kAuto, "Progress"),
-              "2 of 3 files imported.  Left out (not playable, or in the way of itself): abd.mp3");
+    EXPECT_EQ(Shown(kAuto, "Progress"), "2 of 3 files imported.  Left out: abd.mp3 (cannot be played)");
     EXPECT_EQ(Field("M2", 1), "4.0") << "no id is lost to a file left out";
   }
 }
@@ -241,17 +256,36 @@ TEST_F(ImportWinAutoTest, Settings_AreKeptByQuitRestartAndImport) {
   EXPECT_FALSE(Find<CheckBox>(kAuto, "Check1").ticked());
 }
 
+TEST_F(ImportWinAutoTest, KeptFolderThatHasGone_LeavesItsDriveOnView) {
+  std::filesystem::create_directories(folder_.path() / "D" / "STICK");
+  PutFile("QXAIR/FASTIMP.DTA", "\"d:\"\r\n\"D:\\GONE\"\r\n\"d:\"\r\n1\r\n0\r\n");
+  StartConsole();
+  Menu("FastImporter");
+  EXPECT_EQ(Find<DriveListBox>(kAuto, "Drive1").drive(), 'D');
+  EXPECT_EQ(Find<DriveListBox>(kAuto, "Drive2").drive(), 'D');
+  EXPECT_EQ(Rows(kAuto, "Dir1"), std::vector<std::string>{"STICK"});
+  std::filesystem::remove_all(folder_.path() / "D");
+  QueueAnswer("OK");
+  StartConsole();
+  Menu("FastImporter");
+  EXPECT_EQ(TitlesSince(0), std::vector<std::string>{"Drive D not available"});
+  EXPECT_EQ(Find<DriveListBox>(kAuto, "Drive1").drive(), 'C');
+}
+
 TEST_F(ImportWinAutoTest, TargetFolderGone_IsToldAndEndsTheImport) {
   PutSource("abc.wav", 3000);
   PutSource("def.wav", 3000);
-  std::filesystem::create_directories(folder_.path() / "D");
+  std::filesystem::create_directories(folder_.path() / "D" / "QXWAVE");
   Open();
   Choose(kAuto, "Drive2", {"D:"});
   QueueAnswer("OK");
   Import({"abc.wav", "def.wav"});
+  while (!IsThere("QXDATA/Mabc1.DAT")) Advance(5ms);
+  std::filesystem::remove_all(folder_.path() / "D");
   Advance(1min);
   EXPECT_EQ(TitlesSince(0), std::vector<std::string>{"Path Not Found"});
-  EXPECT_TRUE(FilesIn("QXDATA").empty());
+  EXPECT_EQ(FilesIn("QXDATA"), std::vector<std::string>{"Mabc1.DAT"});
+  EXPECT_EQ(Shown(kAuto, "Progress"), "1 of 2 files imported.");
   EXPECT_TRUE(Find<Button>(kAuto, "Command1").enabled());
 }
 
