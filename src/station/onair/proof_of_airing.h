@@ -6,7 +6,7 @@
 
 #include <functional>
 
-#include "station/console/logs.h"
+#include "station/library/proof_log.h"
 #include "station/onair/deck.h"
 #include "station/onair/playback_switches.h"
 #include "station/platform/platform.h"

@@ -4,7 +4,6 @@
 #include <array>
 #include <chrono>
 
-#include "station/console/logs.h"
 #include "station/console/settings_files.h"
 #include "station/console/station_paths.h"
 #include "station/library/item_resolution.h"

@@ -2,21 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "script/script_language.h"
-#include "station/platform/civil_time.h"
 #include "support/station_fixture.h"
 
 namespace quixair::testing {
 namespace {
 
-class Logs : public StationFixture {
- protected:
-  Status Verify(std::string_view id, std::string_view field4) {
-    const CivilTime now = station_.time().Now();
-    return LogVerification(station_.files(), now, id, LogDescription(id, field4), HourMinuteSecondAmPm(now),
-                           ModeLetter::kPickList);
-  }
-};
+class Logs : public StationFixture {};
 
 TEST_F(Logs, ErrorLines_StandByteForByte) {
   SetClock("2001-03-07 13:07:33");
@@ -41,48 +32,6 @@ TEST_F(Logs, ErrorLines_StandByteForByte) {
     ASSERT_TRUE(LogError(station_.files(), ErrorLineStart(mode, station_.time().Now()) + text).ok());
     expected += '"' + std::string(line) + "\"\r\n";
     EXPECT_EQ(FileText("QXAIR/QXERROR.LOG"), expected);
-  }
-}
-
-TEST_F(Logs, VerificationLine_StandsByteForByte) {
-  SetClock("2001-03-07 13:07:33");
-  ASSERT_TRUE(Verify("S1042", "Fall Sale").ok());
-  EXPECT_EQ(FileText("QXTEMPLT/Wed.LOG"), "\"03-07-2001\",\"01:07:33 PM\",\"S1042\",\"Fall Sale\",\"P\"\r\n");
-}
-
-TEST_F(Logs, RunAcrossMidnight_GoesOnInTheNextDaysFile) {
-  PutFile("QXTEMPLT/Mon.LOG", "last week's\r\n");
-  SetClock("2026-11-22 23:59:59");
-  ASSERT_TRUE(Verify("M0001", "Artist").ok());
-  Advance(1s);
-  ASSERT_TRUE(Verify("LL0100", "Title").ok());
-  EXPECT_EQ(FileText("QXTEMPLT/Sun.LOG"), "\"11-22-2026\",\"11:59:59 PM\",\"M0001\",\"Artist\",\"P\"\r\n");
-  EXPECT_EQ(FileText("QXTEMPLT/Mon.LOG"),
-            "last week's\r\n\"11-23-2026\",\"12:00:00 AM\",\"LL0100\",\"*LEGAL I.D.*\",\"P\"\r\n");
-}
-
-TEST_F(Logs, FullDisk_Is61AndTheNextLineTriesAgain) {
-  std::filesystem::create_symlink("/dev/full", Host("QXTEMPLT/Sun.LOG"));
-  EXPECT_EQ(Verify("M0001", "Artist").number(), 61);
-  std::filesystem::remove(Host("QXTEMPLT/Sun.LOG"));
-  EXPECT_TRUE(Verify("M0001", "Artist").ok());
-}
-
-TEST(LogRules, SpotsSongsAndLegalIds_AreVerified) {
-  const struct {
-    const char* id;
-    bool verified;
-    const char* description;
-  } cases[] = {
-      {"S1042", true, "field 4"},    {"s1", true, "field 4"},          {"M0117", true, "field 4"},
-      {"m1", true, "field 4"},       {"LL0100", true, "*LEGAL I.D.*"}, {"lL1", true, "*LEGAL I.D.*"},
-      {"Ll1", true, "*LEGAL I.D.*"}, {"ll1", true, "*LEGAL I.D.*"},    {"L0100", false, "field 4"},
-      {"LM1", false, "field 4"},     {">PAUSE<", false, "field 4"},    {">TIME<", false, "field 4"},
-      {"*S1042", false, "field 4"},  {"", false, "field 4"},           {"06:30 PM", false, "field 4"},
-  };
-  for (const auto& [id, verified, description] : cases) {
-    EXPECT_EQ(IsVerified(id), verified) << id;
-    EXPECT_EQ(LogDescription(id, "field 4"), description) << id;
   }
 }
 
