@@ -121,4 +121,8 @@ std::vector<std::string> ListRecordings(Files& files, std::string_view pattern) 
   return ids;
 }
 
+std::vector<std::string> ListRecordings(Files& files, RecordingKind kind) {
+  return ListRecordings(files, std::string(LetterOf(kind)) + "*.DAT");
+}
+
 }  // namespace quixair

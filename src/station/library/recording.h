@@ -25,7 +25,7 @@ namespace quixair {
 enum class RecordingKind { kSpot, kMusic, kLiner };
 
 enum class Field {
-  kNone,
+  kNone,    // of a line that a kind has not
   kLength,  // seconds, or "[New]"
   kRecordingId,
   kDrive,  // one letter
@@ -116,5 +116,6 @@ class Recording {
 
 /// The ids of the data files that match, in the folder's order; none when the folder cannot be read.
 std::vector<std::string> ListRecordings(Files& files, std::string_view pattern);
+std::vector<std::string> ListRecordings(Files& files, RecordingKind kind);
 
 }  // namespace quixair

@@ -19,15 +19,13 @@ struct Column {
 };
 
 struct LibraryForm {
-  const char* pattern;
   const char* heading;
   std::vector<Column> columns;
 };
 
 // The columns with a drive stand centred below their headings with a gap between each; the plain ones are as
 // wide as stations know them.
-const LibraryForm kSpots = {"S*.DAT",
-                            " I.D.   Account         Title            Len    Start    Kill   P A",
+const LibraryForm kSpots = {" I.D.   Account         Title            Len    Start    Kill   P A",
                             {{kRecordingId, 8},
                              {kAccount, 15},
                              {kTitle, 15},
@@ -37,11 +35,9 @@ const LibraryForm kSpots = {"S*.DAT",
                              {kProduct, 2},
                              {kAnnouncer, kAsItIs}}};
 const LibraryForm kMusic = {
-    "M*.DAT",
     " I.D.     Artist                 Title            Len   From Yr.",
     {{kRecordingId, 8}, {kArtist, 20}, {kTitle, 20}, {kLength, 8}, {kFromYear, kAsItIs}}};
-const LibraryForm kLiners = {"L*.DAT",
-                             " I.D.   Description     Announcer Type     Len      Start    Kill   ",
+const LibraryForm kLiners = {" I.D.   Description     Announcer Type     Len      Start    Kill   ",
                              {{kRecordingId, 8},
                               {kTitle, 15},
                               {kAnnouncer, 1},
@@ -50,7 +46,6 @@ const LibraryForm kLiners = {"L*.DAT",
                               {kStartDate, 9},
                               {kKillDate, 11}}};
 const LibraryForm kSpotsWithDrive = {
-    "S*.DAT",
     " I.D.     Account         Title            Len    Start    Kill   P A Dr",
     {{kRecordingId, 9},
      {kAccount, 16},
@@ -62,11 +57,9 @@ const LibraryForm kSpotsWithDrive = {
      {kAnnouncer, 2},
      {kDrive, kAsItIs}}};
 const LibraryForm kMusicWithDrive = {
-    "M*.DAT",
     " I.D.       Artist                 Title            Len   From Yr. Dr",
     {{kRecordingId, 9}, {kArtist, 21}, {kTitle, 21}, {kLength, 8}, {kFromYear, 8}, {kDrive, kAsItIs}}};
 const LibraryForm kLinersWithDrive = {
-    "L*.DAT",
     " I.D.     Description     Announcer Type     Len      Start    Kill   Dr",
     {{kRecordingId, 9},
      {kTitle, 21},
@@ -118,7 +111,7 @@ const char* LibraryHeading(RecordingKind kind, LibraryColumns columns) {
 }
 
 void EditorList::List(Files& files) {
-  ids_ = ListRecordings(files, FormOf(kind_, columns_).pattern);
+  ids_ = ListRecordings(files, kind_);
   recordings_.clear();
   recordings_.reserve(ids_.size());
   rows_.clear();

@@ -12,7 +12,6 @@ constexpr int kNumberTwips = 750;
 
 const LibraryReport kSpots = {
     .kind = RecordingKind::kSpot,
-    .pattern = "S*.DAT",
     .singular = "Spot",
     .plural = "Spots",
     .shown = {{"Filename", 1000, kRecordingId},
@@ -42,7 +41,6 @@ const LibraryReport kSpots = {
 
 const LibraryReport kMusic = {
     .kind = RecordingKind::kMusic,
-    .pattern = "M*.DAT",
     .singular = "Music",
     .plural = "Music",
     .shown = {{"Filename", 1000, kRecordingId},
@@ -69,7 +67,6 @@ const LibraryReport kMusic = {
 
 const LibraryReport kLiners = {
     .kind = RecordingKind::kLiner,
-    .pattern = "L*.DAT",
     .singular = "Liner",
     .plural = "Liners",
     .shown = {{"Filename", 1000, kRecordingId},

@@ -30,7 +30,7 @@ struct PrintedColumn {
 
 struct LibraryReport {
   RecordingKind kind;
-  const char *pattern, *singular, *plural;  // "S*.DAT", "Spot", "Spots"
+  const char *singular, *plural;  // "Spot", "Spots"
   /// Shown from the grid's column 1 on.
   struct Shown {
     const char* head;

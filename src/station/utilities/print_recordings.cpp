@@ -92,7 +92,7 @@ void PrintRecordingsMDI::LoadKind(RecordingKind kind) {
   const std::string loading = "Loading " + plural + ", Please Wait...";
   Text5.SetText(loading);
   Label3.SetCaption("PRINT " + UpperCased(plural));
-  ids_ = ListRecordings(platform_.files, report_->pattern);
+  ids_ = ListRecordings(platform_.files, report_->kind);
   if (ids_.empty()) {
     TellNoFiles();
     return;
