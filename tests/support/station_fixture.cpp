@@ -121,30 +121,48 @@ void StationFixture::StartConsole() {
   station_.OpenConsole();
 }
 
-void StationFixture::StartRandomWith(std::string_view template_name) {
+void StationFixture::StartAt(std::string_view item) {
   StartConsole();
-  Menu("RandomPlaybackMode");
+  Menu(item);
+}
+
+void StationFixture::StartRandomWith(std::string_view template_name) {
+  StartAt("RandomPlaybackMode");
   for (const char* name : {"File1", "File2"}) {
-    auto& list = Find<FileListBox>("RandomForm1", name);
-    const auto row = std::find(list.rows().begin(), list.rows().end(), template_name);
-    if (row != list.rows().end()) list.PersonSelects({static_cast<int>(row - list.rows().begin())});
+    const auto rows = Rows("RandomForm1", name);
+    if (std::count(rows.begin(), rows.end(), template_name) != 0) Select("RandomForm1", name, template_name);
   }
   Click("RandomForm1", "Done");
   Click("RandomForm1", "Start");
 }
 
 void StationFixture::StartRandom() {
-  StartConsole();
-  Menu("RandomPlaybackMode");
+  StartAt("RandomPlaybackMode");
   Click("RandomForm1", "Start");
 }
 
-void StationFixture::Menu(std::string_view item) {
+void StationFixture::Menu(std::string_view item, std::initializer_list<const char*> answers) {
+  for (const char* answer : answers) QueueAnswer(answer);
   Find<MenuItem>("Console", item).Choose();
 }
 
-void StationFixture::Click(std::string_view screen, std::string_view button) {
+void StationFixture::Click(std::string_view screen, std::string_view button,
+                           std::initializer_list<const char*> answers) {
+  for (const char* answer : answers) QueueAnswer(answer);
   Find<Button>(screen, button).Click();
+}
+
+ListBox& StationFixture::Select(std::string_view screen, std::string_view list, std::string_view row) {
+  const std::vector<std::string>& rows = Find<ListBox>(screen, list).rows();
+  const auto found = std::find(rows.begin(), rows.end(), row);
+  if (found == rows.end()) throw std::runtime_error("no such row: " + std::string(row));
+  return Select(screen, list, static_cast<int>(found - rows.begin()));
+}
+
+ListBox& StationFixture::Select(std::string_view screen, std::string_view list, int row) {
+  auto& box = Find<ListBox>(screen, list);
+  box.PersonSelects({row});
+  return box;
 }
 
 void StationFixture::SetClock(std::string_view moment) {

@@ -71,8 +71,15 @@ class StationFixture : public ::testing::Test {
   void StartRandom();
   /// Opens Random playback, chooses a template in its frame and presses START.
   void StartRandomWith(std::string_view template_name);
-  void Menu(std::string_view item);
-  void Click(std::string_view screen, std::string_view button);
+  void Menu(std::string_view item, std::initializer_list<const char*> answers = {});
+  /// Starts the console and chooses a menu item in it.
+  void StartAt(std::string_view item);
+  /// The answers are those of the boxes that the click brings up.
+  void Click(std::string_view screen, std::string_view button,
+             std::initializer_list<const char*> answers = {});
+  /// Selects a row as a person does: by its text, or counted from 0.
+  ListBox& Select(std::string_view screen, std::string_view list, std::string_view row);
+  ListBox& Select(std::string_view screen, std::string_view list, int row);
   void Advance(std::chrono::milliseconds span) { station_.time().Advance(span); }
   void SetClock(std::string_view moment);
   void QueueAnswer(std::string answer) { station_.dialogs().QueueAnswer(std::move(answer)); }

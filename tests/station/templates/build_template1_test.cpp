@@ -36,13 +36,10 @@ class TemplateEditorScreen : public StationFixture {
     ADD_FAILURE() << "not listed: " << id;
   }
   void DoubleClickEntry(int row) {
-    Find<ListBox>(kEditor, "List2").PersonSelects({row});
+    Select(kEditor, "List2", row);
     Find<ListBox>(kEditor, "List2").DoubleClick();
   }
-  void Save() {
-    QueueAnswer("OK");
-    Click(kEditor, "Command1");
-  }
+  void Save() { Click(kEditor, "Command1", {"OK"}); }
   std::string Entry(int row) { return Rows(kEditor, "List2").at(static_cast<std::size_t>(row)); }
   std::string Ids() {
     std::string ids;
@@ -159,8 +156,7 @@ TEST_F(TemplateEditorScreen, TemplateBuiltAndSaved_LoadsAndSavesUnchanged) {
   EXPECT_FALSE(IsOpen(kEditor)) << "nothing to ask after a save";
   OpenEditor("0", "NEW.TPP");
   EXPECT_EQ(Entry(0), "0001  S2       Baker                Spot S2              20     ");
-  QueueAnswer("Cancel");
-  Click(kEditor, "Command1");
+  Click(kEditor, "Command1", {"Cancel"});
   EXPECT_EQ(FileText("QXTEMPLT/NEW.TPP"), saved) << "Cancel does not stop the save";
 }
 
@@ -176,8 +172,7 @@ TEST_F(TemplateEditorScreen, Insertion_OpensAPlaceAndHoldsEverythingElseOff) {
        {std::pair("Command1", "Can't Save while Inserting"), std::pair("Command2", "Can't Insert Now"),
         std::pair("Command3", "Can't cut while Inserting"),
         std::pair("Command9", "Can't Quit while Inserting")}) {
-    QueueAnswer("OK");
-    Click(kEditor, button);
+    Click(kEditor, button, {"OK"});
     EXPECT_EQ(boxes().back().title, title);
   }
   QueueAnswer("OK");
@@ -195,8 +190,7 @@ TEST_F(TemplateEditorScreen, Insertion_OpensAPlaceAndHoldsEverythingElseOff) {
 
 TEST_F(TemplateEditorScreen, InsertionIntoTooFewEntries_IsRefused) {
   OpenWith({"M0001"});
-  QueueAnswer("OK");
-  Click(kEditor, "Command2");
+  Click(kEditor, "Command2", {"OK"});
   EXPECT_EQ(boxes().back().text, "Not enough entries to do an insert!");
 }
 
@@ -235,8 +229,8 @@ TEST_F(TemplateEditorScreen, LocalBreaks_AreComposedAndKeepTheirTwoForms) {
   Click(kEditor, "localbreak");
   Click(kEditor, "Command16");
   EXPECT_EQ(Shown(kEditor, "Text3"), "Select an Hour, Minute, and AM or PM - Then <ACCEPT>.");
-  Find<ListBox>(kEditor, "List7").PersonSelects({5});
-  Find<ListBox>(kEditor, "List8").PersonSelects({30});
+  Select(kEditor, "List7", 5);
+  Select(kEditor, "List8", 30);
   Click(kEditor, "Command16");
   EXPECT_EQ(Shown(kEditor, "Text3"), "You did not select AM or PM.  This is required");
   Find<OptionButton>(kEditor, "Option2").PersonSelects();
@@ -276,27 +270,23 @@ TEST_F(TemplateEditorScreen, ManualEntry_TakesTheIdOfTheDataFile) {
 TEST_F(TemplateEditorScreen, RangeTotal_ComparesNumbersAsTexts) {
   OpenWith({"S1", "S2", "M0001", "S3"});
   Click(kEditor, "Command13");
-  Find<ListBox>(kEditor, "List5").PersonSelects({2});
+  Select(kEditor, "List5", 2);
   EXPECT_EQ(Shown(kEditor, "Text3"),
             "Range Calculator:   Now, select an ending event Number from the 'To' Box");
-  Find<ListBox>(kEditor, "List6").PersonSelects({0});
+  Select(kEditor, "List6", 0);
   EXPECT_EQ(Shown(kEditor, "Text5"), "70.5  Seconds");
   EXPECT_EQ(Shown(kEditor, "Text6"), "1.2  Minutes");
-  Find<ListBox>(kEditor, "List6").PersonSelects({1000});
+  Select(kEditor, "List6", 1000);
   EXPECT_EQ(Find<ListBox>(kEditor, "List6").selected_text(), "04") << "no further than there are events";
   EXPECT_EQ(Shown(kEditor, "Text5"), "50.5  Seconds");
 }
 
 TEST_F(TemplateEditorScreen, Clear_AsksTwiceAndKeepsTheTotal) {
   OpenWith({"S1", "S2"});
-  QueueAnswer("OK");
-  QueueAnswer("Cancel");
-  Click(kEditor, "Command7");
+  Click(kEditor, "Command7", {"OK", "Cancel"});
   EXPECT_EQ(boxes().back().title, "Last Chance!");
   EXPECT_EQ(Rows(kEditor, "List2").size(), 2U);
-  QueueAnswer("OK");
-  QueueAnswer("OK");
-  Click(kEditor, "Command7");
+  Click(kEditor, "Command7", {"OK", "OK"});
   EXPECT_TRUE(Rows(kEditor, "List2").empty());
   EXPECT_EQ(Shown(kEditor, "Text1"), "Total Time: 40.0 sec. (.666 min.)");
   Save();
@@ -334,11 +324,8 @@ TEST_F(TemplateEditorScreen, DamagedTemplates_AreToldAndNothingIsLost) {
 TEST_F(TemplateEditorScreen, SaveThatFails_KeepsTheScreen) {
   OpenWith({"M0001"});
   Add("List3", "S1");
-  std::filesystem::remove(Host("QXTEMPLT/A.TPP"));
-  std::filesystem::create_directory(Host("QXTEMPLT/A.TPP"));
-  QueueAnswer("Yes");
-  QueueAnswer("OK");
-  Click(kEditor, "Command9");
+  station_.files().Fail(simulation::FileAct::kWrite, "*", RunTimeError::kDiskFull);
+  Click(kEditor, "Command9", {"Yes", "OK"});
   EXPECT_TRUE(IsOpen(kEditor));
   EXPECT_EQ(Ids(), "M0001 S1 ");
 }
@@ -369,6 +356,7 @@ TEST_F(TemplateEditorScreen, FullTemplate_ReplacesItsLastEvent) {
   EXPECT_EQ(boxes().back().title, "Maximum Entries Reached");
   EXPECT_EQ(Rows(kEditor, "List2").size(), 1999U);
   EXPECT_EQ(Entry(1998).substr(0, 8), "1999  S2");
+  EXPECT_EQ(Shown(kEditor, "Text1").substr(0, 19), "Total Time: 40000.0") << "the replaced one's seconds stay";
 }
 
 }  // namespace

@@ -55,12 +55,7 @@ TEST(TemplateFile, DamagedFiles_AreReadAsFarAsTheyGo) {
     EXPECT_EQ(EventsToFirstEmpty(content, kMaxTemplateLines).size(), to_first_empty);
     EXPECT_EQ(EventsBeforeLast(content).size(), before_last);
   }
-}
-
-TEST(TemplateFile, RotationReaders_StopAtTheirLimit) {
-  const Events many(10, {"S1", "a"});
-  EXPECT_EQ(EventsToFirstEmpty(FormatTemplate(many), 4).size(), 4U);
-  EXPECT_EQ(EventsToFirstEmpty(FormatTemplate(many), 100).size(), 10U);
+  EXPECT_EQ(EventsToFirstEmpty(FormatTemplate(Events(10, {"S1", "a"})), 4).size(), 4U) << "its limit";
 }
 
 TEST(TemplateFile, PickList_HasSixCharactersALine) {

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "support/station_fixture.h"
 
 namespace quixair::testing {
 namespace {
+
+using simulation::FileAct;
 
 constexpr const char* kExport = "ExportTemplate";
 constexpr const char* kImport = "ImportTemplate";
@@ -14,13 +14,6 @@ constexpr const char* kRemove = "RemoveSatSpot";
 
 class TemplateHousekeeping : public StationFixture {
  protected:
-  ListBox& Select(std::string_view screen, std::string_view list, std::string_view row) {
-    auto& box = Find<ListBox>(screen, list);
-    const auto found = std::find(box.rows().begin(), box.rows().end(), row);
-    if (found == box.rows().end()) throw std::runtime_error("no such row: " + std::string(row));
-    box.PersonSelects({static_cast<int>(found - box.rows().begin())});
-    return box;
-  }
   void GoInto(std::string_view screen, std::string_view folder) {
     Select(screen, "Dir1", folder).DoubleClick();
   }
@@ -47,8 +40,7 @@ class TemplateHousekeeping : public StationFixture {
 TEST_F(TemplateHousekeeping, Export_CopiesToTheFolderChosen) {
   PutFile("QXTEMPLT/GALA.TPP", kGala);
   std::filesystem::create_directories(Host("BACKUP"));
-  StartConsole();
-  Menu("BackupPickList");
+  StartAt("BackupPickList");
   EXPECT_EQ(Shown(kExport, "Text1"), "First, select an existing file to send to another drive or directory.");
   Select(kExport, "File1", "GALA.TPP");
   EXPECT_EQ(Shown(kExport, "Text1"), "Now, choose a drive and path to send the selected file to...");
@@ -73,8 +65,7 @@ TEST_F(TemplateHousekeeping, Export_CopiesToTheFolderChosen) {
 TEST_F(TemplateHousekeeping, ExportOverAFile_AsksFirst) {
   PutFile("QXTEMPLT/MON.TPD", kGala);
   PutFile("mon.tpd", "old");  // at the drive's root, in another case
-  StartConsole();
-  Menu("BackupSatTemplate");
+  StartAt("BackupSatTemplate");
   Select(kExport, "File2", "MON.TPD");
   Press(kExport, "ExportNow", {"OK", "Cancel"});
   EXPECT_EQ(Box(1).title, "Overwrite Existing File?");
@@ -85,47 +76,31 @@ TEST_F(TemplateHousekeeping, ExportOverAFile_AsksFirst) {
   EXPECT_EQ(FileText("mon.tpd"), kGala);
 }
 
-// The destination as the fault finds it; the screen stays for another try and the source is never harmed.
+// The screen stays for another try and the source is never harmed.
 TEST_F(TemplateHousekeeping, ExportFaults_AreToldByNumber) {
   const struct {
-    const char* what;
-    std::function<void()> prepare;
     const char* folder;
-    std::vector<std::string> answers;
+    RunTimeError fault;
     const char* title;
-  } cases[] = {{"onto itself", [] {}, "QXTEMPLT", {"OK", "OK", "OK"}, "Permission Denied on C:\\QXTEMPLT"},
-               {"disk full",
-                [this] { std::filesystem::create_symlink("/dev/full", Host("BACKUP/GALA.TPP")); },
-                "BACKUP",
-                {"OK", "OK"},
-                "Unanticipated Error 61"},
-               {"a folder of that name",
-                [this] { std::filesystem::create_directories(Host("BACKUP/GALA.TPP")); },
-                "BACKUP",
-                {"OK", "OK"},
-                "Unanticipated Error 75"},
-               {"folder gone meanwhile",
-                [this] { std::filesystem::remove_all(Host("BACKUP")); },
-                "BACKUP",
-                {"OK", "OK"},
-                "Unanticipated Error 76"}};
-  for (const auto& fault : cases) {
-    SCOPED_TRACE(fault.what);
-    PutFile("QXTEMPLT/GALA.TPP", kGala);
-    std::filesystem::remove_all(Host("BACKUP"));
-    std::filesystem::create_directories(Host("BACKUP"));
-    StartConsole();
-    Menu("BackupPickList");
+  } cases[] = {{"QXTEMPLT", RunTimeError::kNone, "Permission Denied on C:\\QXTEMPLT"},  // onto itself
+               {"BACKUP", RunTimeError::kDiskFull, "Unanticipated Error 61"},
+               {"BACKUP", RunTimeError::kPathFileAccess, "Unanticipated Error 75"},
+               {"BACKUP", RunTimeError::kPathNotFound, "Unanticipated Error 76"}};
+  PutFile("QXTEMPLT/GALA.TPP", kGala);
+  std::filesystem::create_directories(Host("BACKUP"));
+  for (const auto& [folder, fault, title] : cases) {
+    SCOPED_TRACE(title);
+    StartAt("BackupPickList");
     Select(kExport, "File1", "GALA.TPP");
-    GoInto(kExport, fault.folder);
-    fault.prepare();
-    Press(kExport, "ExportNow", fault.answers);
-    EXPECT_EQ(boxes().back().title, fault.title);
+    GoInto(kExport, folder);
+    if (fault != RunTimeError::kNone) station_.files().Fail(FileAct::kCopy, "*", fault);
+    if (folder == std::string("QXTEMPLT")) QueueAnswer("OK");  // it is there already
+    Press(kExport, "ExportNow", {"OK", "OK"});
+    EXPECT_EQ(boxes().back().title, title);
     EXPECT_EQ(Shown(kExport, "Text1"),
-              "There was a problem Exporting GALA.TPP to C:\\" + std::string(fault.folder));
+              "There was a problem Exporting GALA.TPP to C:\\" + std::string(folder));
     EXPECT_TRUE(IsOpen(kExport));
     EXPECT_EQ(FileText("QXTEMPLT/GALA.TPP"), kGala);
-    station_.PowerCut();
   }
 }
 
@@ -144,7 +119,7 @@ TEST_F(TemplateHousekeeping, MissingDrives_Are71InBothDirections) {
   }
   const std::filesystem::path stick = Host("../D");
   std::filesystem::create_directories(stick);
-  Find<DriveListBox>(kExport, "Drive1").PersonSelects({1});
+  Select(kExport, "Drive1", 1);
   Select(kExport, "File1", "GALA.TPP");
   std::filesystem::remove_all(stick);  // pulled out
   Press(kExport, "ExportNow", {"OK", "OK"});
@@ -155,8 +130,7 @@ TEST_F(TemplateHousekeeping, MissingDrives_Are71InBothDirections) {
 TEST_F(TemplateHousekeeping, Import_CopiesIntoTheTemplateFolder) {
   PutFile("BACKUP/GALA.TPP", kGala);
   PutFile("BACKUP/NOTES.TXT", "no template");
-  StartConsole();
-  Menu("RestorePickList");
+  StartAt("RestorePickList");
   EXPECT_EQ(Shown(kImport, "Label1"), "Pick-List Files in Source:");
   EXPECT_FALSE(Find<Button>(kImport, "ImportNow").enabled());
   GoInto(kImport, "BACKUP");
@@ -178,56 +152,28 @@ TEST_F(TemplateHousekeeping, Import_CopiesIntoTheTemplateFolder) {
 
 TEST_F(TemplateHousekeeping, ImportFaults_AreToldByNumber) {
   const struct {
-    const char* what;
-    std::function<void()> prepare;
     const char* folder;
-    std::vector<std::string> answers;
-    const char* title;
-    const char* last_line;
-  } cases[] = {{"over itself",
-                [this] { PutFile("QXTEMPLT/GALA.TPP", kGala); },
-                "QXTEMPLT",
-                {"OK", "OK", "OK"},
-                "Permission Denied",
-                " - or - you are trying to write the same file over itself."},
-               {"a folder of that name",
-                [this] { std::filesystem::create_directories(Host("QXTEMPLT/GALA.TPP")); },
-                "BACKUP",
-                {"OK", "OK"},
-                "Path/File Access Error",
-                "Make sure the QXTEMPLT directory exists."},
-               {"disk full",
-                [this] { std::filesystem::create_symlink("/dev/full", Host("QXTEMPLT/GALA.TPP")); },
-                "BACKUP",
-                {"OK", "OK"},
-                "Unexpected ERROR = 61",
-                "and try to import again if necessary."},
-               {"no template folder",
-                [this] { std::filesystem::remove_all(Host("QXTEMPLT")); },
-                "BACKUP",
-                {"OK", "OK"},
-                "Unexpected ERROR = 76",
-                "and try to import again if necessary."}};
-  for (const auto& fault : cases) {
-    SCOPED_TRACE(fault.what);
-    std::filesystem::remove_all(Host("QXTEMPLT"));
-    std::filesystem::create_directories(Host("QXTEMPLT"));
-    PutFile("BACKUP/GALA.TPP", kGala);
-    fault.prepare();
-    StartConsole();
-    Menu("RestorePickList");
-    GoInto(kImport, fault.folder);
-    if (!Exists(std::string(fault.folder) + "/GALA.TPP")) throw std::runtime_error("nothing to import");
+    RunTimeError fault;
+    const char *title, *last_line;
+  } cases[] = {
+      {"QXTEMPLT", RunTimeError::kNone, "Permission Denied",
+       " - or - you are trying to write the same file over itself."},
+      {"BACKUP", RunTimeError::kPathFileAccess, "Path/File Access Error",
+       "Make sure the QXTEMPLT directory exists."},
+      {"BACKUP", RunTimeError::kDiskFull, "Unexpected ERROR = 61", "and try to import again if necessary."}};
+  for (const auto& [folder, fault, title, last_line] : cases) {
+    SCOPED_TRACE(title);
+    PutFile(std::string(folder) + "/GALA.TPP", kGala);
+    StartAt("RestorePickList");
+    GoInto(kImport, folder);
     Select(kImport, "File3", "GALA.TPP");
-    Press(kImport, "ImportNow", fault.answers);
-    EXPECT_EQ(boxes().back().title, fault.title);
+    if (fault != RunTimeError::kNone) station_.files().Fail(FileAct::kCopy, "*", fault);
+    Press(kImport, "ImportNow", {"OK", "OK", "OK"});
+    EXPECT_EQ(boxes().back().title, title);
     const std::string& text = boxes().back().text;
-    EXPECT_EQ(text.substr(text.find('\n') + 1), fault.last_line);
-    EXPECT_EQ(Shown(kImport, "Text1"),
-              "Problem encountered copying GALA.TPP to C:\\" + std::string(fault.folder));
+    EXPECT_EQ(text.substr(text.find('\n') + 1), last_line);
+    EXPECT_EQ(Shown(kImport, "Text1"), "Problem encountered copying GALA.TPP to C:\\" + std::string(folder));
     EXPECT_TRUE(IsOpen(kImport));
-    EXPECT_EQ(FileText("BACKUP/GALA.TPP"), kGala);
-    station_.PowerCut();
   }
 }
 
@@ -263,8 +209,7 @@ TEST_F(TemplateHousekeeping, EraseCustom_OffersItsFamilyAndAsks) {
 TEST_F(TemplateHousekeeping, CopyData_ReplacesTheDestinationUpToTheFirstEmptyEvent) {
   PutFile("QXTEMPLT/MON.TPD", kGala + Lines({"S9"}));
   PutFile("QXTEMPLT/TUE.TPD", Lines({"M0002"}) + kEnd);
-  StartConsole();
-  Menu("CopySatTemplateData");
+  StartAt("CopySatTemplateData");
   EXPECT_FALSE(Find<Button>(kCopy, "Done").enabled());
   Select(kCopy, "File1", "MON.TPD");
   Select(kCopy, "File2", "MON.TPD");
@@ -294,8 +239,7 @@ TEST_F(TemplateHousekeeping, RemoveSpots_KeepsEverythingElseAsItStands) {
   for (const auto& spots : cases) {
     SCOPED_TRACE(spots.before);
     PutFile("QXTEMPLT/MON.TPD", spots.before);
-    StartConsole();
-    Menu("SatRemoveSpots");
+    StartAt("SatRemoveSpots");
     EXPECT_EQ(Shown(kRemove, "Label3"), "Filename = (Empty)");
     Select(kRemove, "File1", "MON.TPD");
     EXPECT_EQ(Shown(kRemove, "Label3"), "Filename = MON.TPD");
@@ -330,8 +274,7 @@ TEST_F(TemplateHousekeeping, SourceThatCannotBeTakenWhole_EndsTheProgramAndHarms
       const char* number = removal ? torn.number_of_removal : torn.number;
       PutFile("QXTEMPLT/MON.TPD", torn.source);
       PutFile("QXTEMPLT/TUE.TPD", "kept");
-      StartConsole();
-      Menu(removal ? "SatRemoveSpots" : "CopySatTemplateData");
+      StartAt(removal ? "SatRemoveSpots" : "CopySatTemplateData");
       const char* screen = removal ? kRemove : kCopy;
       Select(screen, "File1", "MON.TPD");
       if (!removal) Select(screen, "File2", "TUE.TPD");
@@ -348,12 +291,10 @@ TEST_F(TemplateHousekeeping, SourceThatCannotBeTakenWhole_EndsTheProgramAndHarms
 TEST_F(TemplateHousekeeping, FullDisk_LeavesTheTemplatesAndTheProgram) {
   PutFile("QXTEMPLT/MON.TPD", kGala);
   PutFile("QXTEMPLT/TUE.TPD", kEnd);
-  StartConsole();
-  Menu("CopySatTemplateData");
+  StartAt("CopySatTemplateData");
   Select(kCopy, "File1", "MON.TPD");
   Select(kCopy, "File2", "TUE.TPD");
-  std::filesystem::remove(Host("QXTEMPLT/TUE.TPD"));
-  std::filesystem::create_symlink("/dev/full", Host("QXTEMPLT/TUE.TPD"));
+  station_.files().Fail(FileAct::kWrite, "*", RunTimeError::kDiskFull);
   Press(kCopy, "Done", {"OK", "OK"});
   EXPECT_EQ(Box(1).text, "The disk is full.\nTUE.TPD stays as it was.\n[Error 61]");
   EXPECT_EQ(FileText("QXTEMPLT/MON.TPD"), kGala);

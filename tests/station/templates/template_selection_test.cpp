@@ -5,6 +5,8 @@
 namespace quixair::testing {
 namespace {
 
+using simulation::FileAct;
+
 // Chooses a row of a list as a person does.
 class TemplateSelection : public StationFixture {
  protected:
@@ -13,13 +15,6 @@ class TemplateSelection : public StationFixture {
       PutTemplate(name, {});
     AddLibrary(2, 2, 0);  // what the editor wants to open at all
     for (const char* id : {"S1", "S2"}) AddSpot(id, 20000);
-  }
-  ListBox& Select(std::string_view screen, std::string_view list, std::string_view row) {
-    auto& box = Find<ListBox>(screen, list);
-    const auto found = std::find(box.rows().begin(), box.rows().end(), row);
-    if (found == box.rows().end()) throw std::runtime_error("no such row: " + std::string(row));
-    box.PersonSelects({static_cast<int>(found - box.rows().begin())});
-    return box;
   }
   bool EditorOpen() { return IsOpen("BuildTemplate1"); }
   bool DoneEnabled(std::string_view screen) { return Find<Button>(screen, "Done").enabled(); }
@@ -34,8 +29,7 @@ constexpr const char* kPlayHint =
     "Select an Existing Template for Playback by Double Clicking or pressing <Enter>...";
 
 TEST_F(TemplateSelection, Build_OffersCustomFilesAndAllSevenDaysOfItsFamily) {
-  StartConsole();
-  Menu("EditTemplate");
+  StartAt("EditTemplate");
   EXPECT_EQ(station_.FindScreen(kBuild)->title(), "Select Template (Pick-List)");
   EXPECT_EQ(Rows(kBuild, "File1"), std::vector<std::string>{"GALA.TPP"});
   EXPECT_EQ(Rows(kBuild, "List1"), (std::vector<std::string>{"MON.TPT", "TUE.TPT", "WED.TPT", "THU.TPT",
@@ -48,26 +42,13 @@ TEST_F(TemplateSelection, Build_OffersCustomFilesAndAllSevenDaysOfItsFamily) {
   EXPECT_EQ(Rows(kBuild, "List1").size(), 7U);
 }
 
-TEST_F(TemplateSelection, Build_ListsClearEachOtherAndEnableDone) {
-  StartConsole();
-  Menu("EditTemplate");
-  EXPECT_FALSE(DoneEnabled(kBuild));
-  Select(kBuild, "File1", "GALA.TPP");
-  EXPECT_TRUE(DoneEnabled(kBuild));
-  Select(kBuild, "List1", "WED.TPT");
-  EXPECT_EQ(Find<ListBox>(kBuild, "File1").selected_index(), -1);
-  Select(kBuild, "File1", "GALA.TPP");
-  EXPECT_EQ(Find<ListBox>(kBuild, "List1").selected_index(), -1);
-}
-
 TEST_F(TemplateSelection, Build_DoneDoubleClickAndEnterHandTheNameToTheEditor) {
   for (const char* way : {"done", "double", "enter"}) {
     SCOPED_TRACE(way);
     station_.PowerCut();
     std::filesystem::remove(Host("QXAIR/PIKNAME.DTA"));
     PutTemplate("WED.TPT", {});
-    StartConsole();
-    Menu("EditTemplate");
+    StartAt("EditTemplate");
     ListBox& list = Select(kBuild, "List1", "WED.TPT");
     EXPECT_FALSE(EditorOpen());
     if (way == std::string_view("done")) Click(kBuild, "Done");
@@ -85,12 +66,10 @@ TEST_F(TemplateSelection, Build_DoneDoubleClickAndEnterHandTheNameToTheEditor) {
 }
 
 TEST_F(TemplateSelection, Build_NameThatCannotBeWritten_IsToldAndNoEditorOpens) {
-  std::filesystem::create_directories(Host("QXAIR/PIKNAME.DTA"));
-  StartConsole();
-  Menu("EditTemplate");
+  StartAt("EditTemplate");
   Select(kBuild, "File1", "GALA.TPP");
-  QueueAnswer("OK");
-  Click(kBuild, "Done");
+  station_.files().Fail(FileAct::kWrite, "*\\PIKNAME.DTA", RunTimeError::kDiskFull);
+  Click(kBuild, "Done", {"OK"});
   EXPECT_FALSE(EditorOpen());
   EXPECT_TRUE(station_.FindScreen(kBuild)->visible());
 }
@@ -102,15 +81,12 @@ TEST_F(TemplateSelection, Build_NewNamesThatAreRefused_AreToldAndAskedForAgain) 
       {"A.TPP", kPeriod}, {".,", kPeriod}, {"a,.", kBad},          {"a/b", kBad}, {"a\\b", kBad},
       {"a#", kBad},       {"%a", kBad},    {"a^", kBad},           {"a*b", kBad}, {"a;b", kBad},
       {"a|b", kBad},      {"a,b", kBad},   {"   ", "No File Name"}};
-  StartConsole();
-  Menu("EditTemplate");
+  StartAt("EditTemplate");
   for (const auto& [typed, title] : cases) {
     SCOPED_TRACE(typed);
     const std::size_t before = boxes().size();
     QueueAnswer(typed);
-    QueueAnswer("OK");
-    QueueAnswer("");
-    Click(kBuild, "NewTemplate");
+    Click(kBuild, "NewTemplate", {"OK", ""});
     ASSERT_EQ(boxes().size(), before + 3);
     EXPECT_EQ(boxes()[before + 1].title, title);
     EXPECT_EQ(boxes()[before + 1].style, title == std::string_view(kPeriod) ? 160 : 0);
@@ -128,8 +104,7 @@ TEST_F(TemplateSelection, Build_NewNameGoesToTheEditorWithItsExtension) {
                {"EditSatTemplate", " SPRING", "SPRING.TPL"}};
   for (const auto& [item, typed, name] : cases) {
     SCOPED_TRACE(item);
-    StartConsole();
-    Menu(item);
+    StartAt(item);
     const std::size_t before = boxes().size();
     QueueAnswer(typed);
     QueueAnswer("OK");  // to the editor's question whether it is to be a new file
@@ -145,8 +120,7 @@ TEST_F(TemplateSelection, Build_NewNameGoesToTheEditorWithItsExtension) {
 }
 
 TEST_F(TemplateSelection, PickPlay_HandsOverTheNameAndOpensPlayback) {
-  StartConsole();
-  Menu("RunTemplate");
+  StartAt("RunTemplate");
   EXPECT_EQ(Rows(kPick, "File1"), std::vector<std::string>{"GALA.TPP"});
   EXPECT_EQ(Rows(kPick, "File2"), std::vector<std::string>{"MON.TPT"});
   EXPECT_EQ(Shown(kPick, "Text1"), kPlayHint);
@@ -163,8 +137,7 @@ TEST_F(TemplateSelection, PickPlay_HandsOverTheNameAndOpensPlayback) {
 }
 
 TEST_F(TemplateSelection, PickPlay_RefreshReadsTheFolderAnewAndQuitCloses) {
-  StartConsole();
-  Menu("RunTemplate");
+  StartAt("RunTemplate");
   Select(kPick, "File1", "GALA.TPP");
   PutTemplate("NEW.TPP", {});
   Click(kPick, "Refresh");
@@ -204,15 +177,13 @@ TEST_F(TemplateSelection, SatPlay_WritesForTheSiblingProgramsByTheWayOfTheChoice
 }
 
 TEST_F(TemplateSelection, SatPlay_HandOverFails_NothingRunsAndTheNextChoiceRepeatsTheValue) {
-  std::filesystem::create_directories(Host("QXAIR/SATVER.DTA"));
-  StartConsole();
-  Menu("RunSatTemplate");
+  station_.files().Fail(FileAct::kWrite, "*\\SATVER.DTA", RunTimeError::kDiskFull);
+  StartAt("RunSatTemplate");
   Select(kSat, "File1", "GALA.TPL");
-  QueueAnswer("OK");
-  Click(kSat, "Done");
+  Click(kSat, "Done", {"OK"});
   EXPECT_EQ(runs_, std::vector<std::string>{});
   EXPECT_EQ(Shown(kSat, "Text1"), kPlayHint);
-  std::filesystem::remove(Host("QXAIR/SATVER.DTA"));
+  station_.files().Mend();
   Select(kSat, "File1", "NIGHT.TPL").DoubleClick();
   EXPECT_EQ(FileText("QXAIR/STORESAT.DTA"), "\"NIGHT.TPL\"\r\n\"1\"\r\n0\r\n");
   EXPECT_EQ(runs_.size(), 1U);
