@@ -98,57 +98,30 @@ TEST_F(FirstUse, FoldersAndDataThatAreThere_StayAsTheyAre) {
 TEST_F(FirstUse, CancelledAtTheFolders_EndsTheProgramWithAWord) {
   StartNewMachine();
   Click("MMregOCX", "Command1");
-  QueueAnswer("OK");
-  Click("InstallInfo", "Command2");
+  Click("InstallInfo", "Command2", {"OK"});
   EXPECT_EQ(boxes().back().text,
             "Installation was Ended Before Completion\nRun Installation Again When Ready.");
   EXPECT_FALSE(station_.running());
   EXPECT_TRUE(fs::is_empty(Host("")));
 }
 
-TEST_F(FirstUse, CancelledAtTheAudioFolders_RunsAgainAtTheNextStart) {
+TEST_F(FirstUse, CancelledAtTheAudioFolders_RunsAgainAtTheNextStartOrFromTheMenu) {
   StartNewMachine();
-  Click("MMregOCX", "Command1");
-  Click("InstallInfo", "Command1");
+  const auto go_through = [this] {
+    Click("MMregOCX", "Command1");
+    Click("InstallInfo", "Command1");
+  };
+  go_through();
   Click("InstallInfo2", "Command2");
   EXPECT_FALSE(station_.FindScreen("InstallInfo2")->visible());
-  EXPECT_FALSE(fs::exists(Host("QXAIR/REGOCX.DTA")));
-  StartNewMachine();
-  EXPECT_TRUE(IsOpen("MMregOCX"));
-}
-
-TEST_F(FirstUse, CancelledAtTheAudioFolders_CanBeTakenUpAgainFromTheMenu) {
-  StartNewMachine();
-  Click("MMregOCX", "Command1");
-  Click("InstallInfo", "Command1");
-  Click("InstallInfo2", "Command2");
   Menu("RecordingDrivers");
-  Click("MMregOCX", "Command1");
-  Click("InstallInfo", "Command1");
+  go_through();
   EXPECT_TRUE(station_.FindScreen("InstallInfo2")->visible());
-  QueueAnswer("OK");
-  QueueAnswer("OK");
-  Click("InstallInfo2", "Command1");
+  Click("InstallInfo2", "Command2");
+  StartNewMachine();
+  go_through();
+  Click("InstallInfo2", "Command1", {"OK", "OK"});
   EXPECT_EQ(FileText("QXAIR/REGOCX.DTA"), "1\r\n");
-}
-
-TEST_F(FirstUse, FoldersComeToBeWhereTheTableOfDrivesSays) {
-  const fs::path table = folder_.path() / "config" / "drives.conf";
-  WriteHostFile(table, "# the station's drives\nC = ~/on air\nD = " + (folder_.path() / "D").string() + '\n');
-  const fs::path drive_c = folder_.path() / "home" / "on air";
-  fs::create_directories(drive_c);
-  simulation::SimulatedStation station(
-      Drives::Load(table, folder_.path() / "home"), CivilTime{}, [](const fs::path&) { return 0; }, 1);
-  for (int box = 0; box < 3; ++box) station.dialogs().QueueAnswer("OK");
-  station.StartProgram();
-  station.OpenConsole();
-  for (const char* screen : {"MMregOCX", "InstallInfo", "InstallInfo2"}) {
-    dynamic_cast<Button&>(*station.FindScreen(screen)->FindControl("Command1")).Click();
-  }
-  for (const char* name : {"QXAIR", "QXDATA", "QXTIME", "QXWAVE", "QXTEMPLT"}) {
-    EXPECT_TRUE(fs::is_directory(drive_c / name)) << name;
-  }
-  EXPECT_EQ(ReadHostFile(drive_c / "QXAIR" / "REGOCX.DTA"), "1\r\n");
 }
 
 }  // namespace

@@ -37,10 +37,7 @@ TEST_F(Logs, ErrorLines_StandByteForByte) {
 
 class ErrorLogScreen : public StationFixture {
  protected:
-  ErrorLogScreen() {
-    StartConsole();
-    Menu("ViewErrorLog");
-  }
+  ErrorLogScreen() { StartAt("ViewErrorLog"); }
 };
 
 TEST_F(ErrorLogScreen, View_RunsTheEditorOnTheLog) {
@@ -53,25 +50,20 @@ TEST_F(ErrorLogScreen, View_RunsTheEditorOnTheLog) {
 
 TEST_F(ErrorLogScreen, Clear_AsksAndDeletesOnOkOnly) {
   PutFile("QXAIR/QXERROR.LOG", "line");
-  QueueAnswer("Cancel");
-  Click("ErrorLog", "Command2");
+  Click("ErrorLog", "Command2", {"Cancel"});
   EXPECT_EQ(FileText("QXAIR/QXERROR.LOG"), "line");
-  QueueAnswer("OK");
-  Click("ErrorLog", "Command2");
+  Click("ErrorLog", "Command2", {"OK"});
   EXPECT_FALSE(std::filesystem::exists(Host("QXAIR/QXERROR.LOG")));
   EXPECT_EQ(boxes().back().title, "Clear Error Log");
   EXPECT_EQ(boxes().back().text, "Do you really want to clear the entire error log?");
   EXPECT_EQ(boxes().back().style, 33);
-  QueueAnswer("OK");
-  Click("ErrorLog", "Command2");
+  Click("ErrorLog", "Command2", {"OK"});
   EXPECT_EQ(boxes().size(), 3U) << "nothing to clear, and no word of it";
 }
 
 TEST_F(ErrorLogScreen, LogThatCannotBeDeleted_IsToldAndTheProgramGoesOn) {
   std::filesystem::remove_all(Host("QXAIR"));
-  QueueAnswer("OK");
-  QueueAnswer("OK");
-  Click("ErrorLog", "Command2");
+  Click("ErrorLog", "Command2", {"OK", "OK"});
   EXPECT_NE(boxes().back().text.find("[Error 76]"), std::string::npos);
   EXPECT_TRUE(station_.running());
 }

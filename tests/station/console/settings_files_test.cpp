@@ -13,14 +13,9 @@ class SettingsFiles : public StationFixture {
   Files& files() { return station_.files(); }
 };
 
-TEST_F(SettingsFiles, AbsentOrEmpty_IsNoValueAndTheNumberZero) {
-  EXPECT_FALSE(ReadSetting(files(), station_paths::kCustom).has_value());
-  EXPECT_EQ(ReadNumberSetting(files(), station_paths::kRandomVerify), 0);
-  PutFile("QXAIR/CUSTOM.DTA", "");
-  EXPECT_FALSE(ReadSetting(files(), station_paths::kCustom).has_value());
-}
-
 TEST_F(SettingsFiles, Values_ComeBackByteForByte) {
+  EXPECT_FALSE(ReadSetting(files(), station_paths::kPikMode).has_value());
+  EXPECT_EQ(ReadNumberSetting(files(), station_paths::kRandomVerify), 0);
   ASSERT_TRUE(WriteTextSetting(files(), station_paths::kPikMode, "3").ok());
   ASSERT_TRUE(WriteNumberSetting(files(), station_paths::kRandomVerify, 1).ok());
   EXPECT_EQ(FileText("QXAIR/PIKMODE.DTA"), "\"3\"\r\n");
