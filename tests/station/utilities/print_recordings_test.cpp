@@ -15,8 +15,7 @@ class PrintRecordings : public StationFixture {
  protected:
   void Open() {
     SetClock("2026-11-22 20:30:00");
-    StartConsole();
-    Menu("PrintRecordings");
+    StartAt("PrintRecordings");
   }
   /// Opens the screen, loads a kind by its button and leaves the sorting.
   void OpenLoaded(const char* kind_button) {
@@ -25,10 +24,7 @@ class PrintRecordings : public StationFixture {
     Advance(1s);
     Click(kScreen, "Command17");
   }
-  void PrintAll() {
-    QueueAnswer("OK");
-    Click(kScreen, "Command3");
-  }
+  void PrintAll() { Click(kScreen, "Command3", {"OK"}); }
   void TypeRange(std::string_view lowest, std::string_view highest) {
     Click(kScreen, "Command4");
     Find<TextBox>(kScreen, "Text2").Edit(std::string(lowest));
@@ -69,8 +65,7 @@ TEST_F(PrintRecordings, MusicAndLiners_PrintTheirOwnColumns) {
   PrintAll();
   EXPECT_EQ(page(1)[1], "  The Quixair MUSIC Listings     -  Created on: 11/22/2026    Page: 1");
   EXPECT_EQ(page(1)[5], "1     M0001  An artist of twen Title of M0001    183.456(3.05) 01-01-26 2026  C");
-  QueueAnswer("Yes");
-  Click(kScreen, "Command21");
+  Click(kScreen, "Command21", {"Yes"});
   Click(kScreen, "Command9");
   Advance(1s);
   Click(kScreen, "Command17");
@@ -103,8 +98,7 @@ TEST_F(PrintRecordings, FiftyThreeLinesFillAPage) {
   EXPECT_TRUE(page(2)[1].ends_with("Page: 2"));
   EXPECT_TRUE(page(2)[5].starts_with("54 "));
   TypeRange("1", "53");
-  QueueAnswer("OK");
-  Click(kScreen, "Command23");
+  Click(kScreen, "Command23", {"OK"});
   EXPECT_EQ(jobs().back().pages.size(), 1U);
 }
 
@@ -143,8 +137,7 @@ TEST_F(PrintRecordings, RangeThatIsNone_IsRefused) {
                {"3", "6", "'Highest' Number is Too High"}};
   for (const auto& each : cases) {
     TypeRange(each.lowest, each.highest);
-    QueueAnswer("OK");
-    Click(kScreen, "Command23");
+    Click(kScreen, "Command23", {"OK"});
     EXPECT_EQ(boxes().back().title, "Invalid Entry");
     EXPECT_EQ(boxes().back().text, each.text) << each.lowest << " to " << each.highest;
     Click(kScreen, "Command24");
@@ -159,8 +152,7 @@ TEST_F(PrintRecordings, Range_RemovesTheOthersAndPrintsTheRest) {
   Click(kScreen, "Command15");
   TypeRange("2", "3");
   EXPECT_EQ(Shown(kScreen, "Frame3"), "Select Range to Print:");
-  QueueAnswer("Cancel");
-  Click(kScreen, "Command23");
+  Click(kScreen, "Command23", {"Cancel"});
   EXPECT_EQ(Shown(kScreen, "Text1"), "Thanks for Using Quixair 2000");
   EXPECT_EQ(Find<TextBox>(kScreen, "Text1").back_color(), (Color{0xC0C0C0}));
   EXPECT_EQ(Column(1), "S2 S3 ");
@@ -174,8 +166,7 @@ TEST_F(PrintRecordings, Range_RemovesTheOthersAndPrintsTheRest) {
 
 TEST_F(PrintRecordings, NoFiles_IsTold) {
   Open();
-  QueueAnswer("OK");
-  Click(kScreen, "Command8");
+  Click(kScreen, "Command8", {"OK"});
   EXPECT_EQ(Shown(kScreen, "Text5"), "NO MUSIC FILES FOUND");
   EXPECT_EQ(boxes().back().text, "No Music Files Found");
   EXPECT_TRUE(Visible("Frame1"));
@@ -207,9 +198,7 @@ TEST_F(PrintRecordings, PrinterThatFails_IsTold_AndTheListStays) {
   OpenLoaded("Command7");
   EXPECT_EQ(Shown(kScreen, "Label5"), "Default Printer: Office");
   station_.printer().QueueOutcome(PrintOutcome::kFault);
-  QueueAnswer("OK");
-  QueueAnswer("OK");
-  Click(kScreen, "Command3");
+  Click(kScreen, "Command3", {"OK", "OK"});
   EXPECT_EQ(boxes().back().title, "Not Printed");
   EXPECT_TRUE(Enabled("Command3"));
   EXPECT_EQ(Column(1), "S1 ");

@@ -20,21 +20,16 @@ class PrintTemplateScreen : public StationFixture {
     PutTemplate(name, std::vector<std::string>(static_cast<std::size_t>(count), "M1"));
   }
   void OpenLoaded() {
-    StartConsole();
-    Menu("PrintTemplateContents");
-    Find<FileListBox>(kScreen, "File1").PersonSelects({0});
+    StartAt("PrintTemplateContents");
+    Select(kScreen, "File1", 0);
     Click(kScreen, "Command1");
     Advance(1s);
   }
-  void PrintAll() {
-    QueueAnswer("OK");
-    Click(kScreen, "Command3");
-  }
+  void PrintAll() { Click(kScreen, "Command3", {"OK"}); }
   void TypeRange(std::string_view lowest, std::string_view highest) {
     Find<TextBox>(kScreen, "Text2").Edit(std::string(lowest));
     Find<TextBox>(kScreen, "Text3").Edit(std::string(highest));
-    QueueAnswer("OK");
-    Click(kScreen, "Command1");
+    Click(kScreen, "Command1", {"OK"});
   }
   const std::vector<PrintedPage>& pages() { return station_.printer().jobs().back().pages; }
   bool Enabled(const char* button) { return Find<Button>(kScreen, button).enabled(); }
@@ -126,15 +121,14 @@ TEST_F(PrintTemplateScreen, RangeThatIsNone_IsRefusedAndItsBoxEmptied) {
 TEST_F(PrintTemplateScreen, ChoiceAndLoading_EnableWhatCanBeDone) {
   PutSongs("A.TPP", 900);
   PutTemplate("MON.TPT", {"M1"});
-  StartConsole();
-  Menu("PrintTemplateContents");
+  StartAt("PrintTemplateContents");
   EXPECT_FALSE(Enabled("Command1"));
-  Find<FileListBox>(kScreen, "File1").PersonSelects({0});
+  Select(kScreen, "File1", 0);
   EXPECT_TRUE(Enabled("Command1"));
   EXPECT_EQ(Shown(kScreen, "Text1"), "Double Click or Press <Done> to Select Entry");
-  Find<FileListBox>(kScreen, "File2").PersonSelects({0});
+  Select(kScreen, "File2", 0);
   EXPECT_EQ(Find<FileListBox>(kScreen, "File1").selected_index(), -1);
-  Find<FileListBox>(kScreen, "File1").PersonSelects({0});
+  Select(kScreen, "File1", 0);
   Find<FileListBox>(kScreen, "File1").DoubleClick();
   Advance(6ms);
   EXPECT_EQ(Shown(kScreen, "Text1"), "Loading A.TPP  500");
@@ -146,11 +140,10 @@ TEST_F(PrintTemplateScreen, ChoiceAndLoading_EnableWhatCanBeDone) {
 
 TEST_F(PrintTemplateScreen, TemplateThatHasGone_IsToldAndTheListsAreReadAnew) {
   PutSongs("A.TPP", 1);
-  StartConsole();
-  Menu("PrintTemplateContents");
+  StartAt("PrintTemplateContents");
   std::filesystem::remove(Host("QXTEMPLT/A.TPP"));
   QueueAnswer("OK");
-  Find<FileListBox>(kScreen, "File1").PersonSelects({0});
+  Select(kScreen, "File1", 0);
   Find<FileListBox>(kScreen, "File1").PressEnter();
   EXPECT_TRUE(Rows(kScreen, "File1").empty());
   EXPECT_FALSE(Enabled("Command3"));
@@ -158,8 +151,7 @@ TEST_F(PrintTemplateScreen, TemplateThatHasGone_IsToldAndTheListsAreReadAnew) {
 
 TEST_F(PrintTemplateScreen, SimpleSat_ListsItsOwnTemplates) {
   for (const char* name : {"A.TPP", "B.TPL", "MON.TPT", "TUE.TPD"}) PutTemplate(name, {});
-  StartConsole();
-  Menu("PrintSatTemplate");
+  StartAt("PrintSatTemplate");
   EXPECT_EQ(station_.FindScreen("PrintSatTemplateMDI")->title(), "Print Template (Simple-Sat)");
   EXPECT_THAT(Rows("PrintSatTemplateMDI", "File1"), ElementsAre("B.TPL"));
   EXPECT_THAT(Rows("PrintSatTemplateMDI", "File2"), ElementsAre("TUE.TPD"));
