@@ -116,7 +116,7 @@ TEST_F(PickListOperator, EndRunQuitAndWindow_LeaveTheCleanRecord) {
 
 TEST_F(PickListOperator, FirstEventChosen_IsWhereTheRunStarts) {
   OpenList();
-  Find<ListBox>(kPick, "List1").PersonSelects({2});
+  Select(kPick, "List1", 2);
   EXPECT_EQ(Shown(kPick, "Label1"), "Set First Event: (3 M0003 Title of)");
   Click(kPick, "Start");
   EXPECT_EQ(AiredIds(), Ids{"M0003"});
@@ -127,7 +127,7 @@ TEST_F(PickListOperator, Switches_AreStoredAtOnceAndShownAtTheNextLoad) {
   Find<CheckBox>(kPick, "Check1").PersonTicks(true);
   Find<CheckBox>(kPick, "Check2").PersonTicks(false);
   Find<CheckBox>(kPick, "Check4").PersonTicks(true);
-  Find<ListBox>(kPick, "List2").PersonSelects({6});
+  Select(kPick, "List2", 6);
   Click(kPick, "Command3");
   EXPECT_EQ(FileText("QXAIR/PICKREPEAT.DTA"), "1\r\n");
   EXPECT_EQ(FileText("QXAIR/PIKVERLG.DTA"), "1\r\n");
@@ -144,9 +144,9 @@ TEST_F(PickListOperator, Switches_AreStoredAtOnceAndShownAtTheNextLoad) {
 TEST_F(PickListOperator, StartTime_StartsTheRunInItsMinute) {
   OpenList();
   Click(kPick, "Command4");
-  Find<ListBox>(kPick, "TimeList1").PersonSelects({7});
-  Find<ListBox>(kPick, "TimeList2").PersonSelects({32});
-  Find<ListBox>(kPick, "TimeList3").PersonSelects({1});
+  Select(kPick, "TimeList1", 7);
+  Select(kPick, "TimeList2", 32);
+  Select(kPick, "TimeList3", 1);
   Click(kPick, "TimeCommand1");
   EXPECT_EQ(Shown(kPick, "Label2"), "Start Time = 08:32 PM");
   Advance(119s);
@@ -158,12 +158,11 @@ TEST_F(PickListOperator, StartTime_StartsTheRunInItsMinute) {
 TEST_F(PickListOperator, StartTimePrompt_WritesItsFileAndOpensTheList) {
   StartConsole();
   station_.Do([this] { station_.platform().screens.Open("PickListForm2"); });
-  QueueAnswer("OK");
-  Click("PickListForm2", "Command1");
+  Click("PickListForm2", "Command1", {"OK"});
   EXPECT_EQ(boxes().back().text, "You must highlight the hour, minute, and AM or PM");
-  Find<ListBox>("PickListForm2", "List1").PersonSelects({0});
-  Find<ListBox>("PickListForm2", "List2").PersonSelects({5});
-  Find<ListBox>("PickListForm2", "List3").PersonSelects({0});
+  Select("PickListForm2", "List1", 0);
+  Select("PickListForm2", "List2", 5);
+  Select("PickListForm2", "List3", 0);
   Click("PickListForm2", "Command1");
   EXPECT_EQ(FileText("QXAIR/START.TMP"), "\"01:05 AM\"\r\n");
   EXPECT_TRUE(IsOpen(kPick));

@@ -153,7 +153,7 @@ TEST_F(PickList, LocalBreakFirstWithOverlap_IsNotTheOverlapTicksToMoveOn) {
   SetOverlap(3);
   PutList({"M0001", "06:30 PM", "M0002", "M0003"});
   OpenList();
-  Find<ListBox>(kPick, "List1").PersonSelects({1});
+  Select(kPick, "List1", 1);
   Click(kPick, "Start");
   Advance(5min);
   EXPECT_TRUE(aired().empty());
@@ -215,18 +215,16 @@ TEST_F(PickList, DateThatIsNone_EndsTheProgram) {
   AddSpot("S1", 20000, "", "soon");
   PutList({"S1"});
   OpenList();
-  QueueAnswer("OK");
-  Click(kPick, "Start");
+  Click(kPick, "Start", {"OK"});
   EXPECT_FALSE(station_.running());
   EXPECT_EQ(boxes().back().text, "Run-time error '13'");
 }
 
 TEST_F(PickList, DiskFull_EndsTheProgramUnlikeInRandom) {
-  std::filesystem::create_symlink("/dev/full", Host("QXTEMPLT/Sun.LOG"));
+  station_.files().Fail(simulation::FileAct::kAppend, "*.LOG", RunTimeError::kDiskFull);
   PutList({"M0001"});
   OpenList();
-  QueueAnswer("OK");
-  Click(kPick, "Start");
+  Click(kPick, "Start", {"OK"});
   EXPECT_FALSE(station_.running());
   EXPECT_EQ(boxes().back().text, "Run-time error '61'");
 }

@@ -260,8 +260,7 @@ TEST_F(StopSets, TimeThatPassesDuringAPause_IsPassedOver) {
 TEST_F(StopSets, Choice_ListsBothKindsAndStoresTheOneTaken) {
   PutTemplate("SUN.TPD", {"08:31 PM", "S1"});
   PutTemplate("GALA.TPL", {"08:31 PM", "S1"});
-  StartConsole();
-  Menu("RandomPlaybackMode");
+  StartAt("RandomPlaybackMode");
   EXPECT_TRUE(Find<Frame>(kForm, "Frame2").visible());
   EXPECT_FALSE(Find<Button>(kForm, "Start").enabled());
   EXPECT_FALSE(Find<Button>(kForm, "Done").enabled());
@@ -288,8 +287,7 @@ TEST_F(StopSets, Choice_ListsBothKindsAndStoresTheOneTaken) {
 
 TEST_F(StopSets, ChoiceDeclined_PlaysRandomMaterialOnly) {
   QueueAnswer("OK");
-  StartConsole();
-  Menu("RandomPlaybackMode");
+  StartAt("RandomPlaybackMode");
   Click(kForm, "Quit");
   EXPECT_EQ(boxes().back().title, "No File Selected");
   EXPECT_EQ(FileText("QXAIR/RANDSAT.DTA"), "\"Null\"\r\n");

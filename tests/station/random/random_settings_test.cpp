@@ -10,24 +10,6 @@ namespace {
 
 constexpr const char* kTen = "1\r\n2\r\n3\r\n4\r\n1\r\n0\r\n2\r\n1\r\n0\r\n999\r\n";
 
-TEST(RandomSettingsFile, TenNumbers_AreReadAndWrittenInTheirOrder) {
-  const RandomSettings settings = ParseRandomSettings(kTen);
-  EXPECT_EQ(settings.SongsPerStinger, 1);
-  EXPECT_EQ(settings.SongsPerBreak, 3);
-  EXPECT_EQ(settings.BreakType, break_type::kScheduledStopSet);
-  EXPECT_EQ(settings.PauseOverrideSecs, 999);
-  EXPECT_EQ(FormatRandomSettings(settings), kTen);
-}
-
-TEST(RandomSettingsFile, DamagedText_LeavesZeros) {
-  for (const char* content : {"", "\r\n", "abc", "\"\"\r\n"}) {
-    SCOPED_TRACE(content);
-    EXPECT_EQ(ParseRandomSettings(content), RandomSettings());
-  }
-  EXPECT_EQ(ParseRandomSettings("1\n7").SongsPerLiner, 7)
-      << "a file cut off behind its second line, with plain line ends";
-}
-
 TEST(RandomSettingsDefaults, Zeros_DifferBetweenSetupAndPlayback) {
   RandomSettings setup;
   ApplySetupDefaults(setup);
@@ -65,17 +47,10 @@ TEST(RandomSettingsPrintOut, BreakType_DecidesTheLastRows) {
 
 class RandomSetupScreen : public StationFixture {
  protected:
-  void OpenSetup() {
-    StartConsole();
-    Menu("SetRandomDefaults");
-  }
+  void OpenSetup() { StartAt("SetRandomDefaults"); }
   std::string Selected(std::string_view list) { return Find<ListBox>("RandomSetup", list).selected_text(); }
-  void Select(std::string_view list, std::string_view row) {
-    auto& box = Find<ListBox>("RandomSetup", list);
-    const auto found = std::find(box.rows().begin(), box.rows().end(), row);
-    ASSERT_NE(found, box.rows().end()) << row;
-    box.PersonSelects({static_cast<int>(found - box.rows().begin())});
-  }
+  using StationFixture::Select;
+  void Select(std::string_view list, std::string_view row) { Select("RandomSetup", list, row); }
 };
 
 TEST_F(RandomSetupScreen, NoFile_ShowsTheDefaultsAndSavesThem) {
@@ -85,8 +60,7 @@ TEST_F(RandomSetupScreen, NoFile_ShowsTheDefaultsAndSavesThem) {
   EXPECT_EQ(Selected("List5"), "None");
   EXPECT_EQ(Selected("List8"), "Yes") << "a stored 0 disables liners";
   EXPECT_EQ(Shown("RandomSetup", "Label11"), "Current Value = 0 Seconds");
-  QueueAnswer("OK");
-  Click("RandomSetup", "Command1");
+  Click("RandomSetup", "Command1", {"OK"});
   EXPECT_EQ(boxes().back().title, "Save Random Settings");
   EXPECT_EQ(boxes().back().style, 65);
   EXPECT_EQ(FileText("QXAIR/RANDDATA.DTA"), "2\r\n4\r\n8\r\n5\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n");
@@ -102,11 +76,9 @@ TEST_F(RandomSetupScreen, Choices_ReachTheFileOnlyBySave) {
   Select("List7", "Yes");
   Select("List10", "45");
   EXPECT_EQ(Shown("RandomSetup", "Label11"), "Current Value = 45 Seconds");
-  QueueAnswer("Cancel");
-  Click("RandomSetup", "Command1");
+  Click("RandomSetup", "Command1", {"Cancel"});
   EXPECT_EQ(FileText("QXAIR/RANDDATA.DTA"), kTen);
-  QueueAnswer("OK");
-  Click("RandomSetup", "Command1");
+  Click("RandomSetup", "Command1", {"OK"});
   EXPECT_EQ(FileText("QXAIR/RANDDATA.DTA"), "1\r\n15\r\n50\r\n4\r\n0\r\n0\r\n1\r\n1\r\n1\r\n45\r\n");
 }
 
@@ -126,16 +98,14 @@ TEST_F(RandomSetupScreen, ValueOutsideItsRange_SelectsNothingAndIsKept) {
   OpenSetup();
   for (const char* list : {"List1", "List2", "List3", "List4", "List5", "List10"})
     EXPECT_EQ(Selected(list), "") << list;
-  QueueAnswer("OK");
-  Click("RandomSetup", "Command1");
+  Click("RandomSetup", "Command1", {"OK"});
   EXPECT_EQ(FileText("QXAIR/RANDDATA.DTA"), "99\r\n99\r\n99\r\n99\r\n1\r\n1\r\n7\r\n0\r\n0\r\n5000\r\n");
 }
 
 TEST_F(RandomSetupScreen, FileThatCannotBeWritten_IsToldInTheStatus) {
   OpenSetup();
   std::filesystem::remove_all(Host("QXAIR"));
-  QueueAnswer("OK");
-  Click("RandomSetup", "Command1");
+  Click("RandomSetup", "Command1", {"OK"});
   EXPECT_NE(Shown("RandomSetup", "Text1").find("NOT"), std::string::npos);
 }
 

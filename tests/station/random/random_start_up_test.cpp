@@ -49,8 +49,7 @@ TEST_F(RandomStartUp, Pools_AreListedWithTheirMarks) {
   AddSong("M1", 5000);
   AddSong("M2", 5000);
   for (const char* id : {"L1", "LM1", "ll5", "LL1", "LL2"}) AddLiner(id, 3000);
-  StartConsole();
-  Menu("RandomPlaybackMode");
+  StartAt("RandomPlaybackMode");
   std::vector<std::string> rows = Rows("RandomForm1", "List3");
   std::sort(rows.begin(), rows.end());
   // "ll5" counts as a regular liner here, and as a legal id in its own pool: only "LL" and "Ll" are taken
@@ -64,8 +63,7 @@ TEST_F(RandomStartUp, TornDataFiles_ChangeNothingForTheOthers) {
   AddLibrary(3, 2, 2);
   PutFile("QXDATA/M9001.DAT", "\"12");
   PutFile("QXDATA/M9002.DAT", "");
-  StartConsole();
-  Menu("RandomPlaybackMode");
+  StartAt("RandomPlaybackMode");
   EXPECT_EQ(Rows("RandomForm1", "List3").size(), 9U);
   EXPECT_EQ(boxes().size(), 0U) << "a short file passes the load in silence";
 }
@@ -73,8 +71,7 @@ TEST_F(RandomStartUp, TornDataFiles_ChangeNothingForTheOthers) {
 TEST_F(RandomStartUp, RotationFile_IsReadToItsFirstEmptyIdOrTurnsBreaksOff) {
   AddLibrary(3, 2, 2);
   PutSettings(ParseRandomSettings("2\r\n3\r\n4\r\n2\r\n1\r\n1\r\n1\r\n0\r\n0\r\n0\r\n"));
-  StartConsole();
-  Menu("RandomPlaybackMode");
+  StartAt("RandomPlaybackMode");
   EXPECT_EQ(Rows("RandomForm1", "List5"), (std::vector<std::string>{"--Internal Random List--"}));
   Click("RandomForm1", "Command2");
 
@@ -109,8 +106,7 @@ TEST_F(RandomStartUp, Switches_AreShownAsTheirFilesSay) {
     SCOPED_TRACE(std::string(one.file) + " " + (one.content != nullptr ? one.content : "missing"));
     const std::string path = std::string("QXAIR/") + one.file;
     if (one.content != nullptr) PutFile(path, one.content);
-    StartConsole();
-    Menu("RandomPlaybackMode");
+    StartAt("RandomPlaybackMode");
     EXPECT_EQ(Shown("RandomForm1", one.box), one.caption);
     EXPECT_EQ(Find<CheckBox>("RandomForm1", one.box).ticked(), one.ticked);
     std::filesystem::remove(Host(path));
@@ -119,8 +115,7 @@ TEST_F(RandomStartUp, Switches_AreShownAsTheirFilesSay) {
 
 TEST_F(RandomStartUp, SwitchesTicked_AreStoredAtOnce) {
   AddLibrary(3, 2, 2);
-  StartConsole();
-  Menu("RandomPlaybackMode");
+  StartAt("RandomPlaybackMode");
   Find<CheckBox>("RandomForm1", "Check2").PersonTicks(false);
   EXPECT_EQ(FileText("QXAIR/RNDVERLG.DTA"), "1\r\n");
   EXPECT_EQ(Shown("RandomForm1", "Check2"), "Verification Log: OFF");
@@ -165,12 +160,11 @@ TEST_F(RandomStartUp, StartTimeChooser_WritesWholeTimesOnly) {
   AddLibrary(3, 2, 2);
   StartConsole();
   station_.Do([this] { station_.platform().screens.Open("RandomForm2"); });
-  Find<ListBox>("RandomForm2", "List1").PersonSelects({8});
-  QueueAnswer("OK");
-  Click("RandomForm2", "Command1");
+  Select("RandomForm2", "List1", 8);
+  Click("RandomForm2", "Command1", {"OK"});
   EXPECT_EQ(boxes().back().text, "You must highlight the hour, minute, and AM or PM");
-  Find<ListBox>("RandomForm2", "List2").PersonSelects({5});
-  Find<ListBox>("RandomForm2", "List3").PersonSelects({1});
+  Select("RandomForm2", "List2", 5);
+  Select("RandomForm2", "List3", 1);
   EXPECT_EQ(Shown("RandomForm2", "Label2"), "Selected = 09:05 PM");
   Click("RandomForm2", "Command1");
   EXPECT_EQ(FileText("QXAIR/START.TMP"), "\"09:05 PM\"\r\n");

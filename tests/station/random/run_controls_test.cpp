@@ -26,8 +26,7 @@ class RunControlsOnAir : public StationFixture {
 };
 
 TEST_F(RunControlsOnAir, Start_ChangesTheButtonsAndWritesTheRecord) {
-  StartConsole();
-  Menu("RandomPlaybackMode");
+  StartAt("RandomPlaybackMode");
   EXPECT_TRUE(Visible("Start"));
   EXPECT_FALSE(Visible("PauseCommand"));
   EXPECT_EQ(State(), AirState::kReady);
@@ -163,24 +162,22 @@ TEST_F(RunControlsOnAir, WindowClosedInMidRun_EndsTheRunAsItsButtonDoes) {
 }
 
 TEST_F(RunControlsOnAir, QuitBeforeStart_LeavesTheCleanRecord) {
-  StartConsole();
-  Menu("RandomPlaybackMode");
+  StartAt("RandomPlaybackMode");
   Press("Command2");
   EXPECT_FALSE(IsOpen("RandomForm1"));
   EXPECT_EQ(FileText("QXAIR/RESET.DTA"), kClean);
 }
 
 TEST_F(RunControlsOnAir, StartTime_StartsInItsMinuteTomorrowWhenItHasPassed) {
-  StartConsole();
-  Menu("RandomPlaybackMode");
+  StartAt("RandomPlaybackMode");
   Press("Command4");
   EXPECT_TRUE(Visible("TimeFrame2"));
   QueueAnswer("OK");
   Press("TimeCommand1");
   EXPECT_EQ(boxes().back().text, "You must highlight the hour, minute, and AM or PM");
-  Find<ListBox>("RandomForm1", "TimeList1").PersonSelects({7});
-  Find<ListBox>("RandomForm1", "TimeList2").PersonSelects({15});
-  Find<ListBox>("RandomForm1", "TimeList3").PersonSelects({1});
+  Select("RandomForm1", "TimeList1", 7);
+  Select("RandomForm1", "TimeList2", 15);
+  Select("RandomForm1", "TimeList3", 1);
   EXPECT_EQ(Shown("RandomForm1", "TimeLabel6"), "Selected = 08:15 PM");
   Press("TimeCommand1");
   EXPECT_FALSE(Visible("TimeFrame2"));
@@ -192,10 +189,9 @@ TEST_F(RunControlsOnAir, StartTime_StartsInItsMinuteTomorrowWhenItHasPassed) {
 }
 
 TEST_F(RunControlsOnAir, StartTimeCancelled_StartsNothing) {
-  StartConsole();
-  Menu("RandomPlaybackMode");
+  StartAt("RandomPlaybackMode");
   Press("Command4");
-  Find<ListBox>("RandomForm1", "TimeList1").PersonSelects({7});
+  Select("RandomForm1", "TimeList1", 7);
   Press("TimeCommand2");
   EXPECT_EQ(Shown("RandomForm1", "Label2"), "");
   Advance(24h);
@@ -218,10 +214,9 @@ TEST_F(RunControlsOnAir, TransportBars_NeverDisturbAPlayingItem) {
 }
 
 TEST_F(RunControlsOnAir, OverlapValue_IsKeptForTheNextLoad) {
-  StartConsole();
-  Menu("RandomPlaybackMode");
+  StartAt("RandomPlaybackMode");
   EXPECT_FALSE(Visible("Command6"));
-  Find<ListBox>("RandomForm1", "List2").PersonSelects({4});
+  Select("RandomForm1", "List2", 4);
   EXPECT_TRUE(Visible("Command6"));
   Press("Command6");
   EXPECT_EQ(FileText("QXAIR/overlap.dta"), "\"4\"\r\n");
@@ -232,8 +227,7 @@ TEST_F(RunControlsOnAir, OverlapValue_IsKeptForTheNextLoad) {
 }
 
 TEST_F(RunControlsOnAir, SettingsAndNotes_AreShownAndHidden) {
-  StartConsole();
-  Menu("RandomPlaybackMode");
+  StartAt("RandomPlaybackMode");
   Press("Command3");
   EXPECT_FALSE(Visible("List4"));
   EXPECT_FALSE(Visible("Command5"));
