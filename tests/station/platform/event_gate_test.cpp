@@ -80,14 +80,5 @@ TEST_F(EventGateTest, IdleTasks_WaitForTheOutermostEvent) {
   EXPECT_EQ(said_, "at once");
 }
 
-TEST(Regimes, ResultsCarryTheirValueOrTheirNumber) {
-  EXPECT_EQ(OrEndProgram(Result<int>(5)), 5);
-  EXPECT_EQ(Result<int>(RunTimeError::kFileNotFound).value_or(9), 9);
-  EXPECT_EQ(Result<int>(RunTimeError::kInputPastEnd).status().number(), 62);
-  EXPECT_TRUE(Status().ok());
-  SkipAndGoOn(Status(RunTimeError::kDiskFull));
-  EXPECT_THROW(OrEndProgram(Status(RunTimeError::kPermissionDenied)), UnhandledRunTimeError);
-}
-
 }  // namespace
 }  // namespace quixair

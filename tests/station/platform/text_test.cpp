@@ -84,12 +84,6 @@ TEST(Numbers, ShortestSeconds_HasNoIdleZeros) {
   for (const auto& [milliseconds, text] : cases) EXPECT_EQ(ShortestSeconds(milliseconds), text);
 }
 
-TEST(Trimming, TakesBlanksOnly) {
-  EXPECT_EQ(TrimmedRight("  S1042  "), "  S1042");
-  EXPECT_EQ(Trimmed("  S 1  "), "S 1");
-  EXPECT_EQ(Trimmed("   "), "");
-}
-
 TEST(Patterns, MatchNamesAsTheOldPcDid) {
   const struct {
     const char* name;
