@@ -37,45 +37,24 @@ class BinderTest : public StationFixture {
   std::unique_ptr<desktop::Binder> binder_;
 };
 
-TEST_F(BinderTest, ClickOnButton_ReachesItsControl) {
-  int clicks = 0;
-  screen_->Command1.on_click = [&clicks] { ++clicks; };
+TEST_F(BinderTest, Texts_AreUnicodeAndBreakAtRunsOfBlanksWhereTheyWrap) {
   Bind();
-  QTest::mouseClick(form_.button, Qt::LeftButton);
-  EXPECT_EQ(clicks, 1);
-}
-
-TEST_F(BinderTest, AccentedText_ShowsAsUnicode) {
-  Bind();
-  screen_->Label1.SetCaption("Caf\xE9 \x80 5 & more");
-  binder_->Flush();
-  EXPECT_EQ(form_.label->text(), QStringLiteral("Café € 5 & more"));
-}
-
-TEST_F(BinderTest, TypedAccent_ReachesTheControlInItsCodePage) {
-  Bind();
-  QTest::keyClicks(form_.line, QStringLiteral("ca"));
-  QTest::sendKeyEvent(QTest::Click, form_.line, Qt::Key_unknown, QStringLiteral("é"), Qt::NoModifier);
-  EXPECT_EQ(screen_->Text1.text(), "ca\xE9");
-}
-
-TEST_F(BinderTest, ButtonCaption_BreaksAtRunsOfBlanks) {
-  Bind();
+  const struct {
+    bool wraps;
+    const char* caption;
+    const char* shown;
+  } labels[] = {{false, "Caf\xE9 \x80 5 & more", "Café € 5 & more"},
+                {true, "HH:MM A/P.          Click Done", "HH:MM A/P.\nClick Done"},
+                {false, " Elapsed:    1.5", " Elapsed:    1.5"}};
+  for (const auto& [wraps, caption, shown] : labels) {
+    form_.label->setWordWrap(wraps);
+    screen_->Label1.SetCaption(caption);
+    binder_->Flush();
+    EXPECT_EQ(form_.label->text().toStdString(), shown);
+  }
   screen_->Command1.SetCaption("   Re-&Queue           Current");
   binder_->Flush();
   EXPECT_EQ(form_.button->text(), QStringLiteral("Re-&Queue\nCurrent"));
-}
-
-TEST_F(BinderTest, WrappedLabel_BreaksThereToo_OthersShowTheirBlanks) {
-  form_.label->setWordWrap(true);
-  Bind();
-  screen_->Label1.SetCaption("HH:MM A/P.          Click Done");
-  binder_->Flush();
-  EXPECT_EQ(form_.label->text(), QStringLiteral("HH:MM A/P.\nClick Done"));
-  form_.label->setWordWrap(false);
-  screen_->Label1.SetCaption(" Elapsed:    1.5");
-  binder_->Flush();
-  EXPECT_EQ(form_.label->text(), QStringLiteral(" Elapsed:    1.5"));
 }
 
 TEST_F(BinderTest, TenThousandRows_AreOneReset) {
@@ -90,7 +69,7 @@ TEST_F(BinderTest, TenThousandRows_AreOneReset) {
   EXPECT_EQ(form_.list->model()->index(9999, 0).data().toString(), QStringLiteral("row 9999"));
 }
 
-TEST_F(BinderTest, ClickOnRow_SelectsItOnceInTheControl) {
+TEST_F(BinderTest, RowClickedOrReachedByKey_IsSelectedOnceInTheControl) {
   for (const char* row : {"a", "b", "c"}) screen_->List1.AddRow(row);
   int clicks = 0;
   screen_->List1.on_click = [&clicks] { ++clicks; };
@@ -98,14 +77,8 @@ TEST_F(BinderTest, ClickOnRow_SelectsItOnceInTheControl) {
   ClickRow(1);
   EXPECT_EQ(screen_->List1.selected_index(), 1);
   EXPECT_EQ(clicks, 1);
-}
-
-TEST_F(BinderTest, ArrowKey_SelectsTheNextRow) {
-  for (const char* row : {"a", "b", "c"}) screen_->List1.AddRow(row);
-  Bind();
-  ClickRow(0);
   QTest::keyClick(form_.list, Qt::Key_Down);
-  EXPECT_EQ(screen_->List1.selected_text(), "b");
+  EXPECT_EQ(screen_->List1.selected_text(), "c");
 }
 
 TEST_F(BinderTest, DoubleClickAndEnter_AreEventsOfTheirOwn) {
@@ -135,15 +108,9 @@ TEST_F(BinderTest, SelectionByTheStation_ShowsAndRaisesNothing) {
   ASSERT_EQ(form_.list->selectionModel()->selectedIndexes().size(), 1);
   EXPECT_EQ(form_.list->selectionModel()->selectedIndexes().front().row(), 1);
   EXPECT_EQ(clicks, 0);
-}
-
-TEST_F(BinderTest, SelectionOutlivesChangedRows) {
-  for (const char* row : {"a", "b"}) screen_->List1.AddRow(row);
-  Bind();
-  ClickRow(1);
   screen_->List1.AddRow("c");
   QCoreApplication::processEvents();
-  ASSERT_EQ(form_.list->selectionModel()->selectedIndexes().size(), 1);
+  ASSERT_EQ(form_.list->selectionModel()->selectedIndexes().size(), 1) << "it outlives changed rows";
   EXPECT_EQ(form_.list->selectionModel()->selectedIndexes().front().row(), 1);
 }
 
@@ -193,29 +160,22 @@ TEST_F(BinderTest, GridShowsItsColumnsAndRows) {
   EXPECT_EQ(cells.rowCount(), 1);
 }
 
-TEST_F(BinderTest, TickTakenBackByTheStation_ShowsUnticked) {
-  screen_->Check1.on_click = [this] { screen_->Check1.Tick(false); };
+TEST_F(BinderTest, Tick_ShowsWhatTheStationMadeOfIt) {
   Bind();
-  QTest::mouseClick(form_.check, Qt::LeftButton, {}, QPoint(8, form_.check->height() / 2));
-  QCoreApplication::processEvents();
-  EXPECT_FALSE(form_.check->isChecked());
-}
-
-TEST_F(BinderTest, TickThatComesTooLate_ShowsUnticked) {
-  Bind();
-  screen_->Check1.Disable();  // and the window does not show it yet
-  QTest::mouseClick(form_.check, Qt::LeftButton, {}, QPoint(8, form_.check->height() / 2));
-  QCoreApplication::processEvents();
-  EXPECT_FALSE(screen_->Check1.ticked());
-  EXPECT_FALSE(form_.check->isChecked());
-}
-
-TEST_F(BinderTest, TickWithoutObjection_Stays) {
-  Bind();
-  QTest::mouseClick(form_.check, Qt::LeftButton, {}, QPoint(8, form_.check->height() / 2));
-  QCoreApplication::processEvents();
+  const auto click = [this] {
+    QTest::mouseClick(form_.check, Qt::LeftButton, {}, QPoint(8, form_.check->height() / 2));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(form_.check->isChecked(), screen_->Check1.ticked());
+  };
+  click();
   EXPECT_TRUE(screen_->Check1.ticked());
-  EXPECT_TRUE(form_.check->isChecked());
+  screen_->Check1.on_click = [this] { screen_->Check1.Tick(true); };
+  click();
+  EXPECT_TRUE(screen_->Check1.ticked()) << "the station took it back";
+  screen_->Check1.on_click = nullptr;
+  screen_->Check1.Disable();  // and the window does not show it yet
+  click();
+  EXPECT_TRUE(screen_->Check1.ticked()) << "it came too late";
 }
 
 TEST_F(BinderTest, OptionsFollowTheStation_AndCanAllBeClear) {
@@ -227,23 +187,19 @@ TEST_F(BinderTest, OptionsFollowTheStation_AndCanAllBeClear) {
   EXPECT_FALSE(form_.second->isChecked());
 }
 
-TEST_F(BinderTest, KeyIsReplacedOrRefusedByTheControl) {
+TEST_F(BinderTest, Keys_ReachTheControlInItsCodePageAndAreReplacedOrRefusedByIt) {
   screen_->Text1.on_key_press = [](char& key) {
     if (key == '"') key = 0;
     if (key == 'a') key = 'A';
   };
   Bind();
-  QTest::keyClicks(form_.line, QStringLiteral("\"ab\""));
-  EXPECT_EQ(screen_->Text1.text(), "Ab");
-  EXPECT_EQ(form_.line->text(), QStringLiteral("Ab"));
-}
-
-TEST_F(BinderTest, EditInTheMiddle_ReachesTheControl) {
-  screen_->Text1.SetText("ac");
-  Bind();
+  QTest::keyClicks(form_.line, QStringLiteral("\"ac\""));
   form_.line->setCursorPosition(1);
-  QTest::keyClicks(form_.line, QStringLiteral("b"));
-  EXPECT_EQ(screen_->Text1.text(), "abc");
+  QTest::sendKeyEvent(QTest::Click, form_.line, Qt::Key_unknown, QStringLiteral("é"), Qt::NoModifier);
+  EXPECT_EQ(screen_->Text1.text(),
+            "A\xE9"
+            "c");
+  EXPECT_EQ(form_.line->text(), QStringLiteral("Aéc"));
 }
 
 TEST_F(BinderTest, SeveralLines_AreDividedAsOnTheOldPc) {
@@ -271,20 +227,15 @@ TEST_F(BinderTest, YellowGround_HasBlackText_InADarkThemeToo) {
   EXPECT_EQ(form_.status->palette().color(QPalette::Text), QColor(Qt::black));
 }
 
-TEST_F(BinderTest, HiddenAndDisabledControls_ShowSo) {
+TEST_F(BinderTest, WhatIsHiddenDisabledOrInFocus_ShowsSo) {
   Bind();
+  form_.root.activateWindow();
   screen_->Frame1.Hide();
   screen_->Command1.Disable();
+  screen_->Check1.SetFocus();
   binder_->Flush();
   EXPECT_FALSE(form_.first->isVisible());
   EXPECT_FALSE(form_.button->isEnabled());
-}
-
-TEST_F(BinderTest, FocusFollowsTheStation) {
-  Bind();
-  form_.root.activateWindow();
-  screen_->Check1.SetFocus();
-  binder_->Flush();
   EXPECT_EQ(form_.root.focusWidget(), form_.check);
 }
 
@@ -316,23 +267,19 @@ TEST_F(BinderTest, FocusOfAControlThatGoes_IsLeftToTheHarmlessButton_NeverToTheN
   }
 }
 
-TEST_F(BinderTest, ClickOnFrame_ReachesIt) {
-  int clicks = 0;
-  screen_->Frame1.on_click = [&clicks] { ++clicks; };
-  Bind();
-  QTest::mouseClick(form_.frame, Qt::LeftButton, {},
-                    QPoint(form_.frame->width() - 5, form_.frame->height() - 3));
-  EXPECT_EQ(clicks, 1);
-}
-
-TEST_F(BinderTest, TransportBar_RaisesPlayAndPause) {
+TEST_F(BinderTest, Clicks_ReachTheirControls) {
   std::string events;
+  screen_->Command1.on_click = [&events] { events += "press "; };
+  screen_->Frame1.on_click = [&events] { events += "frame "; };
   screen_->MMControl1.on_play_click = [&events] { events += "play "; };
   screen_->MMControl1.on_pause_click = [&events] { events += "pause "; };
   Bind();
+  QTest::mouseClick(form_.button, Qt::LeftButton);
+  QTest::mouseClick(form_.frame, Qt::LeftButton, {},
+                    QPoint(form_.frame->width() - 5, form_.frame->height() - 3));
   QTest::mouseClick(&form_.bar->play_button(), Qt::LeftButton);
   QTest::mouseClick(&form_.bar->pause_button(), Qt::LeftButton);
-  EXPECT_EQ(events, "play pause ");
+  EXPECT_EQ(events, "press frame play pause ");
 }
 
 TEST_F(BinderTest, Repaint_ShowsInTheMiddleOfAStep) {

@@ -31,12 +31,6 @@ TEST_F(Forms, EveryScreenFitsItsForm) {
   }
 }
 
-TEST_F(Forms, ConsoleNeedsNoForm) {
-  const std::unique_ptr<Screen> console = StationScreens().at("Console")(station_.platform());
-  for (const Control* control : console->controls())
-    EXPECT_FALSE(desktop::HasWidget(*control)) << control->name();
-}
-
 TEST_F(Forms, EveryFormHasItsScreen) {
   const ScreenRegistry::Catalogue screens = StationScreens();
   for (const QString& file : QDir(QStringLiteral(":/forms")).entryList()) {
@@ -45,42 +39,24 @@ TEST_F(Forms, EveryFormHasItsScreen) {
   }
 }
 
-TEST_F(Forms, FaultlessSample_HasNoFaults) {
+TEST_F(Forms, WhatDoesNotFit_IsAFault) {
+  const std::pair<std::function<void(SampleForm&)>, const char*> cases[] = {
+      {[](SampleForm& form) { delete form.button; }, "control Command1 has no widget"},
+      {[](SampleForm& form) { AddWidget<QLabel>(*form.frame, "Forgotten"); },
+       "widget Forgotten has no control"},
+      {[](SampleForm& form) { form.root.layout()->addWidget(form.second); },
+       "control Option(1) lies in another frame on the form"},
+      {[](SampleForm& form) {
+         delete form.check;
+         AddWidget<QLabel>(form.root, "Check1");
+       },
+       "control Check1 is a CheckBox, its widget a QLabel"}};
   SampleScreen screen(station_.platform());
-  SampleForm form;
-  AddWidget<QLabel>(form.root, "staticHeading");
-  EXPECT_THAT(desktop::FormFaults(screen, form.root), IsEmpty());
-}
-
-TEST_F(Forms, ControlWithoutWidget_IsAFault) {
-  SampleScreen screen(station_.platform());
-  SampleForm form;
-  delete form.button;
-  EXPECT_THAT(desktop::FormFaults(screen, form.root), ElementsAre("control Command1 has no widget"));
-}
-
-TEST_F(Forms, WidgetWithoutControl_IsAFault) {
-  SampleScreen screen(station_.platform());
-  SampleForm form;
-  AddWidget<QLabel>(*form.frame, "Forgotten");
-  EXPECT_THAT(desktop::FormFaults(screen, form.root), ElementsAre("widget Forgotten has no control"));
-}
-
-TEST_F(Forms, ControlOutsideItsFrame_IsAFault) {
-  SampleScreen screen(station_.platform());
-  SampleForm form;
-  form.root.layout()->addWidget(form.second);
-  EXPECT_THAT(desktop::FormFaults(screen, form.root),
-              ElementsAre("control Option(1) lies in another frame on the form"));
-}
-
-TEST_F(Forms, WidgetOfAnotherKind_IsAFault) {
-  SampleScreen screen(station_.platform());
-  SampleForm form;
-  delete form.check;
-  AddWidget<QLabel>(form.root, "Check1");
-  EXPECT_THAT(desktop::FormFaults(screen, form.root),
-              ElementsAre("control Check1 is a CheckBox, its widget a QLabel"));
+  for (const auto& [spoil, fault] : cases) {
+    SampleForm form;
+    spoil(form);
+    EXPECT_THAT(desktop::FormFaults(screen, form.root), ElementsAre(fault));
+  }
 }
 
 }  // namespace

@@ -5,12 +5,31 @@
 #include <QEventLoop>
 #include <string>
 
+#include "support/timer_contract.h"
+
 namespace quixair::testing {
 namespace {
 
 using std::chrono::milliseconds;
 
-/// Timers on a clock that the test sets.
+/// Every millisecond is looked at.
+class QtDriver {
+ public:
+  TimerService& timers() { return timers_; }
+  void Pass(milliseconds span) {
+    for (const milliseconds end = now_ + span; now_ < end;) {
+      ++now_;
+      timers_.RunDue();
+    }
+  }
+
+ private:
+  milliseconds now_{0};
+  desktop::QtTimers timers_{[this] { return now_; }};
+};
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, TimerContract, QtDriver);
+
+/// What comes late: timers on a clock that the test sets.
 class QtTimersTest : public ::testing::Test {
  protected:
   void PassTo(int now) {
@@ -35,22 +54,6 @@ TEST_F(QtTimersTest, TickInTheOrderInWhichTheyAreDue) {
   EXPECT_EQ(ticks_, "fs");
 }
 
-TEST_F(QtTimersTest, DueTogether_TickInTheOrderOfTheirMaking) {
-  const auto first = Noting('1');
-  const auto second = Noting('2');
-  second->Start(milliseconds(20));
-  first->Start(milliseconds(20));
-  PassTo(20);
-  EXPECT_EQ(ticks_, "12");
-}
-
-TEST_F(QtTimersTest, NotDue_DoesNotTick) {
-  const auto timer = Noting('t');
-  timer->Start(milliseconds(20));
-  PassTo(19);
-  EXPECT_EQ(ticks_, "");
-}
-
 TEST_F(QtTimersTest, MissedShots_AreNotQueued) {
   const auto timer = Noting('t');
   timer->Start(milliseconds(10));
@@ -68,67 +71,6 @@ TEST_F(QtTimersTest, LittleLate_DoesNotDrift) {
   PassTo(13);
   PassTo(20);
   EXPECT_EQ(ticks_, "tt");
-}
-
-TEST_F(QtTimersTest, StartedAnew_CountsFromNow) {
-  const auto timer = Noting('t');
-  timer->Start(milliseconds(10));
-  now_ = milliseconds(8);
-  timer->Start(milliseconds(10));
-  PassTo(17);
-  EXPECT_EQ(ticks_, "");
-  PassTo(18);
-  EXPECT_EQ(ticks_, "t");
-}
-
-TEST_F(QtTimersTest, StoppedInItsOwnTick_TicksNoMore) {
-  std::unique_ptr<TimerShots> timer;
-  timer = timers_.MakeTimer([this, &timer] {
-    ticks_ += 't';
-    timer->Stop();
-  });
-  timer->Start(milliseconds(10));
-  PassTo(10);
-  PassTo(50);
-  EXPECT_EQ(ticks_, "t");
-}
-
-TEST_F(QtTimersTest, DestroyedInItsOwnTick_TicksNoMore) {
-  std::unique_ptr<TimerShots> timer;
-  timer = timers_.MakeTimer([this, &timer] {
-    ticks_ += 't';
-    timer.reset();
-    ticks_ += 'x';  // what the tick holds lives on till its end
-  });
-  timer->Start(milliseconds(10));
-  PassTo(10);
-  PassTo(50);
-  EXPECT_EQ(ticks_, "tx");
-}
-
-TEST_F(QtTimersTest, TickMayStopAnotherThatIsDue) {
-  const auto second = Noting('2');
-  const auto first = timers_.MakeTimer([this, &second] {
-    ticks_ += '1';
-    second->Stop();
-  });
-  first->Start(milliseconds(10));
-  second->Start(milliseconds(11));
-  PassTo(20);
-  EXPECT_EQ(ticks_, "1");
-}
-
-TEST_F(QtTimersTest, StartedInATick_WaitsItsInterval) {
-  const auto second = Noting('2');
-  const auto first = timers_.MakeTimer([this, &second] {
-    ticks_ += '1';
-    second->Start(milliseconds(1));
-  });
-  first->Start(milliseconds(10));
-  PassTo(10);
-  EXPECT_EQ(ticks_, "1");
-  PassTo(11);
-  EXPECT_EQ(ticks_, "12");
 }
 
 TEST_F(QtTimersTest, TickThatWaits_LetsTheOthersGoOn) {

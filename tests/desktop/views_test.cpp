@@ -253,11 +253,10 @@ TEST_F(Views, DayTemplates_TodayStandsOutAndTheFirstArrowChoosesIt) {
 }
 
 TEST(MinutesAndSecondsText, CountsHoursOnlyWhenThereAreSome) {
-  EXPECT_EQ(desktop::MinutesAndSeconds(0), QStringLiteral("0:00"));
-  EXPECT_EQ(desktop::MinutesAndSeconds(59.9), QStringLiteral("0:59"));
-  EXPECT_EQ(desktop::MinutesAndSeconds(605), QStringLiteral("10:05"));
-  EXPECT_EQ(desktop::MinutesAndSeconds(3725), QStringLiteral("1:02:05"));
-  EXPECT_EQ(desktop::MinutesAndSeconds(-1), QStringLiteral("0:00"));
+  for (const auto& [seconds, text] : std::map<double, const char*>{
+           {-1, "0:00"}, {0, "0:00"}, {59.9, "0:59"}, {605, "10:05"}, {3725, "1:02:05"}}) {
+    EXPECT_EQ(desktop::MinutesAndSeconds(seconds).toStdString(), text);
+  }
 }
 
 TEST(MeterBarTest, RisesAtOnce_FallsSlowly_HoldsThePeak) {
