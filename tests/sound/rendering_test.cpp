@@ -101,7 +101,7 @@ TEST_F(Rendering, PauseHoldsTheFrameAndPlayGoesOnFromIt) {
   EXPECT_EQ(Difference(Render(15'000), Part(frames, 5'000, 15'000)), "");
 }
 
-TEST_F(Rendering, RewindWhilePlayingStartsAtTheFirstFrame) {
+TEST_F(Rendering, RewindStartsAtTheFirstFrameAndAPausedOneStaysSilentUntilPlay) {
   const auto frames = UniqueFrames(300'000, 4);
   const auto player = Opened(files_.Wave("song.wav", frames));
   player->Play();
@@ -110,13 +110,6 @@ TEST_F(Rendering, RewindWhilePlayingStartsAtTheFirstFrame) {
   EXPECT_EQ(player->Mode(), ChannelMode::kPlaying);
   EXPECT_EQ(player->Position(), 0);
   EXPECT_EQ(Difference(Render(150'000), Part(frames, 0, 150'000)), "");
-}
-
-TEST_F(Rendering, RewindWhilePausedStaysSilentUntilPlay) {
-  const auto frames = UniqueFrames(50'000, 5);
-  const auto player = Opened(files_.Wave("song.wav", frames));
-  player->Play();
-  Render(30'000);
   player->Pause();
   player->Rewind();
   EXPECT_EQ(player->Mode(), ChannelMode::kPaused);
@@ -125,14 +118,16 @@ TEST_F(Rendering, RewindWhilePausedStaysSilentUntilPlay) {
   EXPECT_EQ(Difference(Render(10'000), Part(frames, 0, 10'000)), "");
 }
 
-TEST_F(Rendering, CloseSilencesAtOnceAndTheOthersGoOn) {
+TEST_F(Rendering, CloseAndAFailedOpenSilenceAtOnceAndTheOthersGoOn) {
   const auto frames = UniqueFrames(30'000, 6);
   const auto closing = Opened(files_.Wave("a.wav", UniqueFrames(30'000, 7)));
+  const auto failing = Opened(files_.Wave("c.wav", UniqueFrames(30'000, 8)));
   const auto staying = Opened(files_.Wave("b.wav", frames));
-  closing->Play();
-  staying->Play();
+  for (MediaPlayer* player : {closing.get(), failing.get(), staying.get()}) player->Play();
   Render(10'000);
   closing->Close();
+  failing->Open("C:\\GONE", std::nullopt);
+  EXPECT_EQ(failing->Mode(), ChannelMode::kNotOpen);
   EXPECT_EQ(Difference(Render(20'000), Part(frames, 10'000, 20'000)), "");
 }
 
@@ -230,14 +225,6 @@ TEST_F(Rendering, APlayerThatIsNotOpenIsHarmless) {
     player->Close();
     EXPECT_EQ(Difference(Render(100), std::vector<StereoFrame>(100)), "");
   }
-}
-
-TEST_F(Rendering, AFailedOpenClosesWhatPlayedBefore) {
-  const auto player = Opened(files_.Wave("song.wav", UniqueFrames(10'000, 1)));
-  player->Play();
-  player->Open("C:\\GONE", std::nullopt);
-  EXPECT_EQ(player->Mode(), ChannelMode::kNotOpen);
-  EXPECT_EQ(Difference(Render(100), std::vector<StereoFrame>(100)), "");
 }
 
 TEST_F(Rendering, ModesFollowTheCommands) {
