@@ -72,17 +72,6 @@ TEST_F(Scripts, Events_ArePrintedInTheirForm) {
   }
 }
 
-TEST_F(Scripts, FirstUse_ShowsItsBoxInOneLine) {
-  std::filesystem::remove(Host("QXAIR/REGOCX.DTA"));
-  const Played played = Play("answer Cancel\nstart\nexpect-box \"Getting Ready for First Use\"");
-  EXPECT_EQ(played.exit_code, 0) << played.errors;
-  EXPECT_EQ(
-      played.out,
-      "2026-11-22 20:00:00.000 screen Console open\n2026-11-22 20:00:00.000 box 65 \"Getting Ready for First "
-      "Use\" \"Welcome to The Quixair.  Your software\\nhas detected that this is a new install. \\nPress OK "
-      "to prepare your system.\" -> Cancel\n");
-}
-
 TEST_F(Scripts, OnTheAir_ChannelsAreTraced) {
   AddLiner("L1", 3000);
   AddLiner("L2", 3000);
@@ -132,15 +121,6 @@ TEST_F(Scripts, WhatIsAskedFor_IsPrintedWithoutATime) {
             "state Console.EnahncedMixer visible=no enabled=no fore=default back=default\n");
 }
 
-TEST_F(Scripts, StartTimeChooser_TakesRowsByNumberAndText) {
-  const Played played = Play(
-      "quiet\nstart\nopen RandomForm2\nshow RandomForm2\nselect RandomForm2.List1 #9\n"
-      "state RandomForm2.List1\nexpect RandomForm2.List1 09\nexpect-row RandomForm2.List1 12\n"
-      "select RandomForm2.List1 \"12\"\nexpect RandomForm2.List1 12");
-  EXPECT_EQ(played.exit_code, 0) << played.errors << played.out;
-  EXPECT_NE(played.out.find("selected=#9 "), std::string::npos) << played.out;
-}
-
 TEST_F(Scripts, Failures_ExitWithOneOrTwoAndNameTheLine) {
   std::filesystem::remove(Host("QXAIR/VOXPLAN.EXE"));
   const struct {
@@ -167,6 +147,9 @@ TEST_F(Scripts, Failures_ExitWithOneOrTwoAndNameTheLine) {
       {"clock 2026-11-22", 2, "line 1: no date and time: 2026-11-22\n"},
       {"answer \"open", 2, "line 1: a quote is not closed\n"},
       {"start\nclose Console\nclick Console.Exit", 2, "line 3: the screen is not open: Console\n"},
+      {"start\nopen RandomForm2\nselect RandomForm2.List1 #9\nexpect RandomForm2.List1 09\n"
+       "expect-row RandomForm2.List1 \"12\"\nselect RandomForm2.List1 \"12\"\nexpect RandomForm2.List1 11",
+       1, "line 7: RandomForm2.List1 is \"12\", expected was \"11\"\n"},
       {"start\nopen RandomForm2\nselect RandomForm2.List1 #13", 2, "line 3: no such row: #13\n"},
       {"start\nopen RandomForm2\nselect RandomForm2.List1 #1 #2", 2, "line 3: the list takes one row only\n"},
   };
