@@ -7,9 +7,9 @@
 #include "script/script_language.h"
 #include "script/trace.h"
 #include "station/platform/civil_time.h"
+#include "station/platform/text.h"
 #include "station/screen/controls.h"
 #include "station/screen/screen.h"
-#include "station/platform/text.h"
 
 namespace quixair::script {
 namespace {

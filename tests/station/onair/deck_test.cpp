@@ -34,7 +34,8 @@ class DeckTest : public StationFixture, public DeckObserver {
   }
   void ItemEnded(int channel, const AirItem& item, EndCause cause, double seconds_heard) override {
     told_ += "ended " + item.id + " on " + std::to_string(channel) + " cause " +
-             std::to_string(static_cast<int>(cause)) + " heard " + std::to_string(seconds_heard).substr(0, 4) + ';';
+             std::to_string(static_cast<int>(cause)) + " heard " +
+             std::to_string(seconds_heard).substr(0, 4) + ';';
   }
   static AirItem Item(const std::string& id, const std::string& extension = ".wav") {
     return {.id = id, .path = "C:\\QXWAVE\\" + id + extension, .first_text = {}, .title = {}};

@@ -356,7 +356,8 @@ TEST_F(TemplateEditorScreen, FullTemplate_ReplacesItsLastEvent) {
   EXPECT_EQ(boxes().back().title, "Maximum Entries Reached");
   EXPECT_EQ(Rows(kEditor, "List2").size(), 1999U);
   EXPECT_EQ(Entry(1998).substr(0, 8), "1999  S2");
-  EXPECT_EQ(Shown(kEditor, "Text1").substr(0, 19), "Total Time: 40000.0") << "the replaced one's seconds stay";
+  EXPECT_EQ(Shown(kEditor, "Text1").substr(0, 19), "Total Time: 40000.0")
+      << "the replaced one's seconds stay";
 }
 
 }  // namespace
