@@ -1,5 +1,6 @@
 #include "desktop/qt_dialogs.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -79,6 +80,20 @@ Answer QtDialogs::MessageBox(std::string_view text, int style, std::string_view 
   QMessageBox box(IconOf(style), ToQt(title), ToQt(text), ButtonsOf(style), Over());
   box.setTextFormat(Qt::PlainText);
   return AnswerOf(Run(box), style);
+}
+
+void QtDialogs::NoticeBox(std::string_view text, int style, std::string_view title, int seconds) {
+  QMessageBox box(IconOf(style), ToQt(title), ToQt(text), QMessageBox::Ok, Over());
+  box.setTextFormat(Qt::PlainText);
+  QTimer second;
+  const auto count_down = [&box, &second, left = seconds]() mutable {
+    box.button(QMessageBox::Ok)->setText(QStringLiteral("OK (%1)").arg(left));
+    if (left-- == 0) box.accept();
+  };
+  QObject::connect(&second, &QTimer::timeout, &box, count_down);
+  count_down();
+  second.start(std::chrono::seconds(1));
+  Run(box);
 }
 
 std::string QtDialogs::InputBox(std::string_view prompt, std::string_view title, const InputOffer& offer) {

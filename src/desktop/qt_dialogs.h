@@ -26,6 +26,7 @@ class QtDialogs : public Dialogs {
   void set_parent(QWidget* parent) { parent_ = parent; }
 
   Answer MessageBox(std::string_view text, int style, std::string_view title) override;
+  void NoticeBox(std::string_view text, int style, std::string_view title, int seconds) override;
   std::string InputBox(std::string_view prompt, std::string_view title, const InputOffer& offer) override;
   std::optional<RecordingFormat> FormatBox(const RecordingFormat& initial) override;
 

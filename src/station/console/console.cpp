@@ -87,7 +87,14 @@ void Console::ConfirmExit() {
   EndProgram();
 }
 
+bool Console::MayEndRun() {
+  if (platform_.screens.OnTheAir() == nullptr) return true;
+  return platform_.dialogs.MessageBox("Playback is on the air. End the run?",
+                                      box_style::kYesNo + box_style::kQuestion, "Quixair") == Answer::kYes;
+}
+
 void Console::CloseWindow() {
+  if (!MayEndRun()) return;
   if (ReadSetting(platform_.files, station_paths::kResetRandom) == "1") {
     SkipAndGoOn(WriteTextSetting(platform_.files, station_paths::kResetRandom, "0"));
   } else {

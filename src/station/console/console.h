@@ -105,6 +105,8 @@ class Console : public Screen {
   void RunSibling(const char* path);
   void ResumeInterruptedRun();
   void PrepareOrShowSplash();
+  bool IsWholeProgram() const override { return true; }
+  bool MayEndRun();
   void ConfirmExit();
   void ResumeLastPickList();
   void ReinstallAudioDriver();

@@ -18,7 +18,8 @@ int ReadNumberSetting(Files& files, std::string_view path) {
 }
 
 Status WriteTextSetting(Files& files, std::string_view path, std::string_view value) {
-  return files.Write(path, WriteForm().Text(value).bytes());
+  // A restart goes by some of them: they reach the disk no later than its record does.
+  return files.Write(path, WriteForm().Text(value).bytes(), Durability::kFlushed);
 }
 
 Status WriteNumberSetting(Files& files, std::string_view path, int value) {

@@ -8,6 +8,8 @@
 
 namespace quixair::station_paths {
 
+inline constexpr std::string_view kMixer = "C:\\WINDOWS\\sndvol32.exe";  // the host's
+
 inline constexpr std::string_view kProgramFolder = "C:\\QXAIR";
 inline constexpr std::string_view kDataFolder = "C:\\QXDATA";
 inline constexpr std::string_view kTemplateFolder = "C:\\QXTEMPLT";

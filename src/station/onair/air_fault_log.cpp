@@ -3,15 +3,16 @@
 namespace quixair {
 
 void AirFaultLog::Add(const std::string& row, const std::string& logged) {
-  if (!IsDue()) return;
+  if (!IsDue(row)) return;
   last_line_ = clock_.Steady();
   ++lines_;
   add_row_(row);
   SkipAndGoOn(LogError(files_, ErrorLineStart(mode_, clock_.Now()) + logged));
 }
 
-bool AirFaultLog::IsDue() {
-  return lines_ < kLinesPerOutage || SecondsBetween(last_line_, clock_.Steady()) >= kSecondsBetweenLines;
+bool AirFaultLog::IsDue(const std::string& row) {
+  return told_.insert(row).second || lines_ < kLinesPerOutage ||
+         SecondsBetween(last_line_, clock_.Steady()) >= kSecondsBetweenLines;
 }
 
 }  // namespace quixair

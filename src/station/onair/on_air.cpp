@@ -3,6 +3,7 @@
 #include <array>
 
 #include "station/platform/civil_time.h"
+#include "station/platform/dialogs.h"
 #include "station/platform/text.h"
 
 namespace quixair {
@@ -18,6 +19,11 @@ OnAir::OnAir(PlaybackScreen& the_screen, const Ways& ways)
              [&the_screen](std::string row) { the_screen.List6.AddFault(std::move(row)); }),
       ways_(ways) {
   deck.Observe(faults);
+  deck.Observe(*this);
+}
+
+void OnAir::ItemBegan(int /*channel*/, const AirItem& /*item*/) {
+  for (Button* button : {&screen.Run.RequeueCommand, &screen.Run.BeginNextCommand}) button->Enable();
 }
 
 bool OnAir::Begin(int channel, const AirItem& item) {
@@ -73,10 +79,37 @@ void OnAir::AbortCompeting() {
   deck.End(2, EndCause::kAborted);
 }
 
+void OnAir::Guard(bool wanted, const std::function<void()>& begin_next) {
+  const bool fine = !deck.running() || wanted || deck.AudioPaused() || deck.AnythingSounds();
+  const auto silent = guard_.GoesOnAfter(fine, screen.platform().clock.Steady());
+  if (!silent) return;
+  begin_next();
+  PauseNextPending = false;  // nobody is there to go on
+  const AirItem* item = deck.item(deck.plays(2) ? 2 : 1);
+  if (item == nullptr && *silent >= 2 * AirGuard::kMostSilence) return;  // told once, and when it sounds again
+  const std::string row = "Silent for " + FixedDecimals(*silent, 0) + " seconds, went on with " +
+                          (item == nullptr        ? "nothing yet"
+                           : item->announcement() ? item->path
+                                                  : item->id);
+  faults.Add(row, ' ' + row);
+}
+
 void OnAir::StartWhenDue(const std::function<void()>& start) {
   if (!screen.StartTime.IsDue(HourMinuteAmPm(screen.platform().clock.Now()))) return;
   screen.Timer1.SetInterval(std::chrono::milliseconds(0));
   if (!deck.running()) start();
+}
+
+bool OnAir::MayBegin() {
+  Screen* other = screen.platform().screens.OnTheAir();
+  if (other == nullptr || other == &screen) return true;
+  const std::string mode = other->name().starts_with("Random") ? "Random" : "Pick-List";
+  const Answer answer =
+      screen.platform().dialogs.MessageBox(mode + " Playback is on the air. End it and start this?",
+                                           box_style::kYesNo + box_style::kQuestion, "Quixair");
+  if (answer != Answer::kYes) return false;
+  other->EndRunOnTheAir();
+  return true;
 }
 
 void OnAir::BeginRun() {
@@ -88,6 +121,8 @@ void OnAir::BeginRun() {
   screen.Overlap.List2.Disable();
   screen.Overlap.save.Disable();
   screen.Run.ShowForRun();
+  screen.StartTime.CloseFrame();  // its access keys are the run's
+  ArmTimers();                    // a first step that finds nothing to play is tried again by the ticks
 }
 
 void OnAir::Pause(const std::string& text) {

@@ -9,13 +9,14 @@
 #include <string>
 
 #include "station/onair/air_fault_log.h"
+#include "station/onair/air_guard.h"
 #include "station/onair/deck.h"
 #include "station/onair/playback_screen.h"
 #include "station/onair/status_line.h"
 
 namespace quixair {
 
-class OnAir {
+class OnAir final : public DeckObserver {
  public:
   struct Ways {
     ModeLetter mode;
@@ -29,6 +30,9 @@ class OnAir {
   StatusLine status;
   AirFaultLog faults;
   bool PauseNextPending = false;  // the next tick pauses the item that has just begun
+
+  /// The next one can be skipped or taken back again.
+  void ItemBegan(int channel, const AirItem& item) override;
 
   // steps
   /// Puts an item on a channel and shows it. False, with the fault told, when its file cannot be played.
@@ -47,10 +51,15 @@ class OnAir {
   void ShowElapsed();
   /// The only guard against two songs over each other; it always keeps channel 1.
   void AbortCompeting();
+  /// Goes on as Begin Next does when the air has been silent without anybody's wish, and tells it. `wanted`: the
+  /// mode waits for its operator.
+  void Guard(bool wanted, const std::function<void()>& begin_next);
   /// Start in the minute that was set.
   void StartWhenDue(const std::function<void()>& start);
 
   // the operator
+  /// False when the other mode is on the air and the operator leaves it there: two programmes never sound at once.
+  bool MayBegin();
   void BeginRun();
   void Pause(const std::string& text);
   /// Asks for a live break after the current item, or takes the request back.
@@ -62,6 +71,7 @@ class OnAir {
 
  private:
   Ways ways_;
+  AirGuard guard_;
 };
 
 }  // namespace quixair

@@ -8,9 +8,12 @@
 #include "station/screen/screen.h"
 
 namespace quixair {
+namespace {
+constexpr const char* kCaption = "Start Overlap when ? seconds remain";
+}
 
 OverlapChoice::OverlapChoice(Screen& owner, std::string label_name, std::string save_name)
-    : caption(owner, std::move(label_name), "Start Overlap when ? seconds remain"),
+    : caption(owner, std::move(label_name), kCaption),
       List2(owner, "List2"),
       save(owner, std::move(save_name), "Sa&ve") {
   save.SetHint("Saves the Overlap Setting");
@@ -33,6 +36,16 @@ void OverlapChoice::ReadFile() {
       ReadSetting(List2.screen().platform().files, station_paths::kOverlap).value_or(std::string());
   const bool valid = stored.size() == 1 && stored[0] >= '0' && stored[0] <= '9';
   List2.Select(valid ? stored[0] - '0' : 0);
+}
+
+void OverlapChoice::Allow(bool allowed) {
+  if (allowed == allowed_) return;
+  allowed_ = allowed;
+  if (!allowed) chosen_ = List2.selected_index();
+  List2.Select(allowed ? chosen_ : 0);
+  if (!allowed) List2.Disable();
+  if (!allowed) save.Hide();
+  caption.SetCaption(allowed ? kCaption : "[Can't Overlap]");
 }
 
 int OverlapChoice::Settled() {

@@ -20,10 +20,16 @@ class OverlapChoice {
 
   /// Fills the list and selects the stored value.
   void ReadFile();
+  /// A list of one event cannot overlap; what was chosen comes back with a longer one.
+  void Allow(bool allowed);
   /// Selects "0" when nothing is selected, and gives the seconds.
   int Settled();
   /// 0 when nothing is selected.
   int seconds() const;
+
+ private:
+  bool allowed_ = true;
+  int chosen_ = 0;  // while it is not allowed
 };
 
 }  // namespace quixair

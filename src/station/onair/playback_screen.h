@@ -32,6 +32,8 @@ class PlaybackScreen : public Screen, public OnAirScreen {
   PlaybackScreen(const Platform& platform, const Names& names);
 
   std::vector<MediaControl*> sounding_channels() override;
+  /// Asks first when a run is on the air.
+  void CloseWindow() override;
 
   // what is on the air and around it
   TextBox Text1{*this, "Text1", TextBox::Use::kShow};  // status line
@@ -54,6 +56,7 @@ class PlaybackScreen : public Screen, public OnAirScreen {
   Button Command2{*this, "Command2", "&QUIT"};
   Button Command4{*this, "Command4", "Set Start &Time"};
   RunButtons Run{*this};
+  Button OLE1{*this, "OLE1", "Volume"};  // the host's mixer; its key is another button's
 
   ErrorList List6{*this};  // error log of this screen
   OverlapChoice Overlap;

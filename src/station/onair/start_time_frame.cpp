@@ -59,16 +59,20 @@ bool StartTimeFrame::IsDue(const std::string& hour_minute_am_pm) const {
   return start_time_ == hour_minute_am_pm;
 }
 
+/// A list touched in passing does not take away the time that is set.
 void StartTimeFrame::Choose() {
-  start_time_ = ChosenStartTime(TimeList1, TimeList2, TimeList3);
-  TimeLabel6.SetCaption("Selected = " + start_time_);
+  const std::string chosen = ChosenStartTime(TimeList1, TimeList2, TimeList3);
+  if (chosen.size() != kStartTimeLength) return;
+  chosen_ = chosen;
+  TimeLabel6.SetCaption("Selected = " + chosen_);
 }
 
 void StartTimeFrame::Done() {
-  if (start_time_.size() != kStartTimeLength) {
+  if (chosen_.empty()) {
     TimeFrame2.screen().platform().dialogs.MessageBox(kStartTimeIncomplete, box_style::kOk, "Quixair");
     return;
   }
+  start_time_ = chosen_;
   shown_.SetCaption("Start Time = " + start_time_);
   start_timer_.SetInterval(kStartTimeTick);
   start_timer_.SetEnabled(true);
@@ -83,6 +87,7 @@ void StartTimeFrame::Cancel() {
 
 void StartTimeFrame::CloseFrame() {
   TimeFrame2.Hide();
+  chosen_.clear();
   for (ListBox* list : {&TimeList1, &TimeList2, &TimeList3}) list->Clear();
   TimeLabel6.SetCaption("Selected = ");
 }

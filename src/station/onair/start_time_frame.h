@@ -27,6 +27,8 @@ class StartTimeFrame {
 
   /// Shows the frame with its lists filled; does nothing when it is open.
   void OpenFrame();
+  /// Without a choice; the time set stays.
+  void CloseFrame();
   /// True in the minute that was set. A time that has passed waits till the same time tomorrow.
   bool IsDue(const std::string& hour_minute_am_pm) const;
 
@@ -34,12 +36,12 @@ class StartTimeFrame {
   void Choose();
   void Done();
   void Cancel();
-  void CloseFrame();
 
   Label& shown_;
   Timer& start_timer_;
   std::string when_cancelled_;
   std::string start_time_;
+  std::string chosen_;  // while the frame is open; empty until all three lists have a choice
 };
 
 /// Fills the three lists of a start time chooser.

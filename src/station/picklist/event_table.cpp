@@ -43,9 +43,17 @@ Status EventTable::ReadTemplate(Files& files, std::string_view template_name) {
   const Result<std::string> content = files.Read(station_paths::TemplateFile(template_name));
   if (!content.ok()) return content.status();
   for (TemplateEvent& event : EventsBeforeLast(content.value())) {
-    events_.push_back({std::move(event.EventId), {}, {}, std::move(event.EventTitle), {}});
+    const bool empty = event.EventId.empty();
+    events_.push_back({empty ? std::string(kEmptyPlace) : std::move(event.EventId),
+                       {},
+                       {},
+                       empty ? std::string(kEmptyPlace) : std::move(event.EventTitle),
+                       {}});
   }
-  Cut();
+  if (EventCount() > kCapacity) {
+    Cut();
+    return RunTimeError::kSubscriptOutOfRange;
+  }
   return StopsInMidRecord(content.value()) ? RunTimeError::kInputPastEnd : RunTimeError::kNone;
 }
 
@@ -83,7 +91,7 @@ Status EventTable::ReadDataFiles(Files& files) {
     event.EventDrive = recording.value(Field::kDrive);
     event.EventField4 = first_label.empty() ? std::string("[Empty?]") : first_label;
     event.EventField5 = recording.value(Field::kSecondLabel);
-    const int total = total_seconds_ + RoundedSeconds(event.EventLength);
+    const int total = RoundedSeconds(total_seconds_ + NumericValue(event.EventLength));
     if (total > kMostSeconds) {
       fault = RunTimeError::kOverflow;
     } else {
@@ -101,13 +109,18 @@ const PickListEvent& EventTable::event(int number) const {
   return number <= EventCount() ? events_[static_cast<std::size_t>(number - 1)] : kNothing;
 }
 
+bool EventTable::StandsAt(int number) const {
+  return number <= EventCount() && event(number).EventDrive.empty() &&
+         !StartsNoChannel(event(number).EventId);
+}
+
 const std::string& EventTable::next_id(int number) const {
   static const std::string kNone;
   return number < EventCount() ? event(number + 1).EventId : kNone;
 }
 
-int RoundedSeconds(std::string_view length) {
-  return static_cast<int>(std::nearbyint(NumericValue(length)));
+int RoundedSeconds(double seconds) {
+  return static_cast<int>(std::nearbyint(seconds));
 }
 
 std::string EventRow(int number, const PickListEvent& event) {

@@ -31,7 +31,7 @@ class EventTable {
   static constexpr int kCapacity = 2000;
 
   /// Takes over the ids of C:\QXTEMPLT\<name>. 53 not found, 62 when it stops in the middle of a record, with
-  /// the events before that taken.
+  /// the events before that taken, 9 when it has more than the table holds.
   Status ReadTemplate(Files& files, std::string_view template_name);
   /// Takes over the ids that the editor handed over in PICKLIST.DTA. 53, 62 as above.
   Status ReadHandOver(Files& files);
@@ -43,10 +43,12 @@ class EventTable {
   /// The event of that number; an empty one behind the last. A number outside the table of 2,000 is a fault
   /// that ends the program.
   const PickListEvent& event(int number) const;
+  /// Neither code nor recording that can be found: a local break, or a data file that has gone. The run stands there.
+  bool StandsAt(int number) const;
   /// The id of the event behind `number`, empty behind the last.
   const std::string& next_id(int number) const;
 
-  /// Whole seconds; each length was rounded when it was added.
+  /// Whole seconds: the running sum was rounded at each length.
   int TotalSeconds() const { return total_seconds_; }
 
  private:
@@ -56,8 +58,8 @@ class EventTable {
   int total_seconds_ = 0;
 };
 
-/// Seconds of a length text rounded to the nearest whole number, halves to the even one.
-int RoundedSeconds(std::string_view length);
+/// To the nearest whole number, halves to the even one.
+int RoundedSeconds(double seconds);
 
 /// A row of the event lists: number, id, and the first 8 characters of the title.
 std::string EventRow(int number, const PickListEvent& event);

@@ -16,6 +16,7 @@
 namespace quixair {
 
 void PickListControls::Start() {
+  if (!context_.air.MayBegin()) return;
   PickListRun& run = context_.run;
   context_.air.BeginRun();
   ShowTotals();

@@ -8,6 +8,7 @@
 #include "station/console/station_paths.h"
 #include "station/library/item_resolution.h"
 #include "station/library/recording.h"
+#include "station/onair/nested_call.h"
 #include "station/picklist/lineup_totals.h"
 #include "station/picklist/pick_list_form1.h"
 #include "station/picklist/pick_list_run.h"
@@ -44,15 +45,18 @@ void PickListEngine::PlayNextEvent() {
     return;
   }
   if (depth_ == 0) step_left_ = false;
-  ++depth_;
+  const NestedCall nested(depth_);
   Step();
-  --depth_;
 }
 
 void PickListEngine::GoOnWhereLeft() {
   if (!step_left_ || SecondsBetween(left_at_, context_.platform.clock.Steady()) < go_on_after_) return;
   step_left_ = false;
   PlayNextEvent();
+}
+
+bool PickListEngine::WaitsForOperator() const {
+  return step_left_ || KindOfEvent(context_.current_id()) == EventKind::kLocalBreak;
 }
 
 void PickListEngine::LeaveStep(double seconds) {
@@ -165,9 +169,17 @@ void PickListEngine::ShowLast() {
   context_.screen.LastLabel[1].SetCaption(' ' + last.EventField5 + "   Len: " + last.EventLength);
 }
 
+/// What the record names is what plays after a power cut: the hand-over files that a screen beside the run may have
+/// written meanwhile are brought in line with it.
 void PickListEngine::WriteRecord() {
   const PickListRun& run = context_.run;
-  OrEndProgram(WritePickListRecord(context_.platform.files, run.TemplateName, run.CurrentEvent));
+  Files& files = context_.platform.files;
+  const auto bring_in_line = [&files](std::string_view path, const std::string& value) {
+    if (ReadSetting(files, path) != value) SkipAndGoOn(WriteTextSetting(files, path, value));
+  };
+  bring_in_line(station_paths::kPikMode, run.PikModeValue);
+  if (run.PikModeValue == "0") bring_in_line(station_paths::kStorePik, run.TemplateName);
+  OrEndProgram(WritePickListRecord(files, run.TemplateName, run.CurrentEvent));
 }
 
 void PickListEngine::CheckSpot() {
@@ -197,13 +209,18 @@ std::optional<std::string> PickListEngine::RefusalByDates(const std::string& id)
   const std::string& start_date = spot.value(Field::kStartDate);
   const std::string& kill_date = spot.value(Field::kKillDate);
   const CivilTime today = context_.platform.clock.Now();
-  const auto date_or_end = [&today](const std::string& date) {
-    if (!date.empty() && !CalendarDay(date, today.year)) OrEndProgram(RunTimeError::kTypeMismatch);
-  };
-  date_or_end(start_date);
+  CheckDate(id, "start date", start_date);
   if (auto too_early = SpotDateRefusal(start_date, "", today)) return too_early;
-  date_or_end(kill_date);
+  CheckDate(id, "kill date", kill_date);
   return SpotDateRefusal("", kill_date, today);
+}
+
+/// The fault names what has to be mended, and where.
+void PickListEngine::CheckDate(const std::string& id, const char* field, const std::string& date) const {
+  if (date.empty() || CalendarDay(date, context_.platform.clock.Now().year)) return;
+  const std::string row = id + ": " + field + ' ' + date + " is not a date. Record / Spots / Edit Data";
+  context_.air.faults.Add(row, ' ' + row);
+  throw UnhandledRunTimeError(RunTimeError::kTypeMismatch, row);
 }
 
 /// What was refused never sounds. A list of nothing but spots that are out of their dates must come to an end:
@@ -238,6 +255,7 @@ bool PickListEngine::AnnounceTime() {
     screen.CurrLabel[3].SetCaption(" ");
     return true;
   }
+  context_.run.ElapsedSecs = 0;
   ++context_.run.CurrentEvent;
   PlayNextEvent();
   return false;
@@ -250,7 +268,7 @@ PickListEngine::Started PickListEngine::StartItem() {
   if (deck.plays(1) && !deck.OverlapActive) return Started::kNothing;
   // Nothing plays and no tick moves on: so a local break waits for the operator, and so does an event whose
   // data file is gone.
-  if (context_.events.event(context_.run.CurrentEvent).EventDrive.empty()) return Started::kStepEnds;
+  if (context_.events.StandsAt(context_.run.CurrentEvent)) return Started::kStepEnds;
   const bool begun = deck.plays(1) ? StartOnSecond() : StartOnFirst();
   if (!context_.run.run_over) CorrectForOverlap();
   return begun ? Started::kBegun : Started::kNothing;
@@ -271,6 +289,7 @@ AirItem PickListEngine::ItemInTurn() const {
 bool PickListEngine::StartOnFirst() {
   if (context_.air.Begin(1, ItemInTurn())) return true;
   LeaveOutEmpty();
+  context_.run.ElapsedSecs = 0;  // the item before is in the sum already
   ++context_.run.CurrentEvent;
   PlayNextEvent();
   if (!context_.run.run_over) context_.air.ShowTurn(1);
@@ -306,7 +325,7 @@ void PickListEngine::LeaveOutEmpty() {
   run.ProgramTimeNow = length + run.ProgramTimeSum;
   run.SecondsRemaining = run.TotalSeconds - run.ProgramTimeNow;
   ShowRemaining();
-  run.TotalSeconds = RoundedSeconds(std::to_string(run.TotalSeconds - length));
+  run.TotalSeconds = RoundedSeconds(run.TotalSeconds - length);
 }
 
 /// Two items that overlap last so much less together.

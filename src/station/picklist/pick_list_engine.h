@@ -35,6 +35,8 @@ class PickListEngine {
   void PlayNextEvent();
   /// At every tick: goes on with what a bounded step or the search for the next day's template left.
   void GoOnWhereLeft();
+  /// At a local break, or between rounds of a list in which nothing may play: silence is told, and meant.
+  bool WaitsForOperator() const;
   /// Closes the list: its hand-over files, the record of the run, the screen.
   void EndOfRun();
   /// `wide`: the seconds in the form "00.00".
@@ -53,6 +55,7 @@ class PickListEngine {
   void WriteRecord();
   void CheckSpot();
   std::optional<std::string> RefusalByDates(const std::string& id) const;
+  void CheckDate(const std::string& id, const char* field, const std::string& date) const;
   void PassOverSpot();
   bool AnnounceTime();
   enum class Started { kBegun, kNothing, kStepEnds };

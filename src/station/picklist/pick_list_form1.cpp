@@ -14,7 +14,8 @@ PickListForm1::PickListForm1(const Platform& platform)
                                 .verification_file = station_paths::kPickVerify,
                                 .no_start_time = "Start Time = (MANUAL)"}),
       playback_(std::make_unique<PickListPlayback>(*this)) {
-  for (Control* control : std::array<Control*, 4>{&Text4, &Text5, &EscapeFrame, &EventLbl}) {
+  for (Control* control :
+       std::array<Control*, 7>{&Text2, &List3, &Command1, &Text4, &Text5, &EscapeFrame, &EventLbl}) {
     control->Hide();
   }
   Text6.SetText("There is a high number of errors. Press Get Out! to end the run.");
@@ -27,7 +28,11 @@ void PickListForm1::Load() {
   playback_->Activate();
 }
 
-void PickListForm1::CloseWindow() {
+bool PickListForm1::OnTheAir() const {
+  return playback_->running();
+}
+
+void PickListForm1::EndRunOnTheAir() {
   playback_->EndRun();
 }
 

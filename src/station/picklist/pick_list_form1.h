@@ -19,7 +19,8 @@ class PickListForm1 : public PlaybackScreen {
   explicit PickListForm1(const Platform& platform);
   ~PickListForm1() override;
   void Load() override;
-  void CloseWindow() override;
+  bool OnTheAir() const override;
+  void EndRunOnTheAir() override;
   void ProgramEnds() override;
   OnAirStatus on_air_status() const override;
 
@@ -38,8 +39,6 @@ class PickListForm1 : public PlaybackScreen {
   std::array<Label, 3> TotalLineup{Label{Lineup, "TotalLineup(0)"}, Label{Lineup, "TotalLineup(1)"},
                                    Label{Lineup, "TotalLineup(2)"}};
   TextBox Text5{*this, "Text5", TextBox::Use::kShow};  // hidden: active channel and its notify value
-
-  Button OLE1{*this, "OLE1", "&Volume"};  // the host's mixer
 
   // lists
   ListBox List3{*this, "List3"};  // the events of the run

@@ -31,6 +31,7 @@ bool PickListOverlap::MayOverlap() const {
   const std::string& next = context_.events.next_id(context_.run.CurrentEvent);
   if (IsTimeEvent(current) || IsSpotId(current)) return false;
   // A lower-case ">p" passes: known, and kept.
+  if (context_.events.StandsAt(context_.run.CurrentEvent + 1)) return false;
   if (IsTimeEvent(next) || next.starts_with(">P") || IsSpotId(next)) return false;
   return deck.closed(2) && next != current;
 }

@@ -9,7 +9,7 @@
 #include "station/platform/civil_time.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/event_gate.h"
-#include "station/platform/programs.h"
+#include "station/templates/template_file.h"
 
 namespace quixair {
 namespace {
@@ -64,7 +64,6 @@ void PickListPlayback::ConnectSettings() {
   screen.Command4.on_click = [&screen] { screen.StartTime.OpenFrame(); };
   screen.Remaining.on_click = [this] { controls_.TellAboutRemaining(); };
   screen.Command1.on_click = [this] { ToggleCover(); };
-  screen.OLE1.on_click = [this] { context_.platform.programs.Run("C:\\WINDOWS\\sndvol32.exe"); };
   screen.Check1.on_click = [this, &screen] {
     context_.run.RepeatOn = screen.Check1.ticked();
     screen.Check1.SetCaption(context_.run.RepeatOn ? "Repeat: ON" : "Repeat: OFF");
@@ -107,6 +106,15 @@ void PickListPlayback::TakeRestartRecord() {
   run.AutoRestarted = true;
 }
 
+/// On a restart the record tells what was playing; a screen opened beside the run may have handed over since.
+std::string PickListPlayback::ModeHandedOver() const {
+  const std::string mode = ReadSetting(context_.platform.files, station_paths::kPikMode).value_or("");
+  if (!context_.run.AutoRestarted) return mode;
+  const TemplateKind kind = KindOfTemplate(context_.run.TemplateName);
+  if (kind == TemplateKind::kPickCustom || kind == TemplateKind::kPickDaily) return "0";
+  return mode == "4" ? "4" : "1";
+}
+
 void PickListPlayback::PrepareScreen() {
   PickListForm1& screen = context_.screen;
   screen.Run.HideBeforeRun();
@@ -121,8 +129,7 @@ void PickListPlayback::PrepareScreen() {
   context_.air.deck.EndAll(EndCause::kOperator);
   screen.Switches.ReadFiles();
   context_.air.status.Tell("Loading data for PICKLIST.DTA...");
-  context_.run.PikModeValue =
-      ReadSetting(context_.platform.files, station_paths::kPikMode).value_or(std::string());
+  context_.run.PikModeValue = ModeHandedOver();
 }
 
 /// False when the next day's template has gone since it was looked for.
@@ -139,9 +146,13 @@ bool PickListPlayback::ReadList() {
       screen.List3.Clear();
       context_.air.status.Tell("Loading data for Next Day");
     }
-    run.TemplateName = ReadSetting(files, station_paths::kStorePik).value_or(std::string());
+    if (!run.AutoRestarted) {
+      const auto stored = files.Read(station_paths::kStorePik);
+      if (!stored.ok()) read = stored.status();
+      run.TemplateName = ReadSetting(files, station_paths::kStorePik).value_or(std::string());
+    }
     screen.Label7.SetCaption(run.TemplateName);
-    read = context_.events.ReadTemplate(files, run.TemplateName);
+    if (read.ok()) read = context_.events.ReadTemplate(files, run.TemplateName);
   }
   if (read.error() == RunTimeError::kFileNotFound && run.NextDayLoad) return false;
   TellFault(read);
@@ -196,17 +207,12 @@ void PickListPlayback::FillLists() {
   for (int number = 1; number <= context_.events.EventCount(); ++number) {
     screen.List1.AddRow(EventRow(number, context_.events.event(number)));
   }
-  screen.Overlap.ReadFile();
+  if (!run.NextDayLoad) screen.Overlap.ReadFile();  // else what the operator chose stays, stored or not
   run.RepeatOn = ReadNumberSetting(context_.platform.files, station_paths::kPickRepeat) == 1;
   screen.Check1.Tick(run.RepeatOn);
   screen.Check1.SetCaption(run.RepeatOn ? "Repeat: ON" : "Repeat: OFF");
-  if (context_.events.EventCount() == 1) {
-    screen.Overlap.List2.Select(0);
-    screen.Overlap.List2.Disable();
-    screen.Overlap.save.Hide();
-    screen.Overlap.caption.SetCaption("[Can't Overlap]");
-  }
-  screen.List6.AddFault("-- error log --");
+  screen.Overlap.Allow(context_.events.EventCount() != 1);
+  if (!run.NextDayLoad) screen.List6.AddFault("-- error log --");
   context_.air.status.Tell("Ready to Begin Playback.  Press START to begin, or QUIT to Exit");
 }
 

@@ -3,6 +3,8 @@
 // What plays on PickListForm1: the list, the state of the run, and those that act on them. The screen owns
 // one of these.
 
+#include <string>
+
 #include "station/picklist/pick_list_controls.h"
 #include "station/picklist/pick_list_engine.h"
 #include "station/picklist/pick_list_overlap.h"
@@ -20,6 +22,7 @@ class PickListPlayback {
   /// False when there is no such file at a change of the day.
   bool Activate();
   void EndRun() { controls_.EndRun(); }
+  bool running() const { return context_.air.deck.running(); }
   void ProgramEnds() { context_.air.deck.EndAll(EndCause::kProgramEnds); }
   OnAirStatus status() const { return context_.air.deck.status(); }
 
@@ -27,6 +30,7 @@ class PickListPlayback {
   void ConnectControls();
   void ConnectSettings();
   void TakeRestartRecord();
+  std::string ModeHandedOver() const;
   void PrepareScreen();
   bool ReadList();
   void TellFault(const Status& fault);

@@ -47,6 +47,8 @@ void PickListWatcher::WatchChannels() {
     if (context_.run.run_over) return;
     (this->*rule)();
   }
+  if (!context_.run.run_over)
+    context_.air.Guard(engine_.WaitsForOperator(), [this] { controls_.BeginNext(); });
 }
 
 void PickListWatcher::ShowTotals() {
@@ -76,6 +78,7 @@ void PickListWatcher::HandBack() {
   const std::string& next = context_.events.next_id(run.CurrentEvent);
   // A lower-case "s" does not hold it off here, unlike on the way to channel 2: known, and kept.
   if (deck_.live.LiveRequested() || IsTimeEvent(next) || next.starts_with('S')) return;
+  if (context_.events.StandsAt(run.CurrentEvent + 1)) return;
   const int overlap = context_.screen.Overlap.seconds();
   if (overlap == 0 || !deck_.plays(2) || !deck_.closed(1)) return;
   if (deck_.length(2) - run.ElapsedSecs > overlap + 1) return;

@@ -42,6 +42,11 @@ class Dialogs {
   virtual ~Dialogs() = default;
   /// Lines of `text` are divided by line feeds.
   virtual Answer MessageBox(std::string_view text, int style, std::string_view title) = 0;
+  /// A box with an OK alone that counts as acknowledged when nobody has pressed it after some seconds, which it
+  /// counts down: at night nobody is there to go on.
+  virtual void NoticeBox(std::string_view text, int style, std::string_view title, int /*seconds*/) {
+    MessageBox(text, style, title);
+  }
   /// The text that was typed; empty when the operator cancelled.
   virtual std::string InputBox(std::string_view prompt, std::string_view title, const InputOffer& offer) = 0;
   /// The format that the operator chose; none when the choice was cancelled.

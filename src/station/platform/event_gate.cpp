@@ -16,7 +16,7 @@ void EventGate::Enter(const std::function<void()>& event) {
   } catch (const ProgramEnd& end) {
     End(end.exit_code);
   } catch (const UnhandledRunTimeError& fault) {
-    ShowUnhandled(fault.error());
+    ShowUnhandled(fault);
     End(1);
   } catch (const std::exception& fault) {
     if (on_fault) on_fault(fault.what());
@@ -40,10 +40,14 @@ void EventGate::End(int exit_code) {
   if (on_end) on_end(exit_code);
 }
 
-void EventGate::ShowUnhandled(RunTimeError error) {
-  const std::string text = "Run-time error '" + std::to_string(static_cast<int>(error)) + "'";
+std::string FaultText(const UnhandledRunTimeError& fault) {
+  const std::string text = "Run-time error '" + std::to_string(static_cast<int>(fault.error())) + "'";
+  return fault.remedy().empty() ? text : text + "\n" + fault.remedy();
+}
+
+void EventGate::ShowUnhandled(const UnhandledRunTimeError& fault) {
   try {
-    dialogs_.MessageBox(text, box_style::kOk + box_style::kCritical, "Quixair");
+    dialogs_.MessageBox(FaultText(fault), box_style::kOk + box_style::kCritical, "Quixair");
   } catch (const ProgramEnd&) {
     // The box itself was left because the program has ended: what was to be done is done.
   }

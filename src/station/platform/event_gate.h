@@ -48,7 +48,7 @@ class EventGate {
 
  private:
   void End(int exit_code);
-  void ShowUnhandled(RunTimeError error);
+  void ShowUnhandled(const UnhandledRunTimeError& fault);
   void RunIdleTasks();
 
   Dialogs& dialogs_;

@@ -9,6 +9,7 @@
 
 #include <exception>
 #include <optional>
+#include <string>
 #include <utility>
 
 namespace quixair {
@@ -70,13 +71,19 @@ void SkipAndGoOn(const Result<T>&) {}
 /// Thrown where no rule is in force; EventGate turns it into a box and an orderly end of the program.
 class UnhandledRunTimeError : public std::exception {
  public:
-  explicit UnhandledRunTimeError(RunTimeError error) : error_(error) {}
+  /// `remedy` tells where the fault lies and what mends it, when that is known.
+  explicit UnhandledRunTimeError(RunTimeError error, std::string remedy = {})
+      : error_(error), remedy_(std::move(remedy)) {}
   RunTimeError error() const { return error_; }
+  const std::string& remedy() const { return remedy_; }
   const char* what() const noexcept override { return "run-time error"; }
 
  private:
   RunTimeError error_;
+  std::string remedy_;
 };
+/// What the box of such a fault says.
+std::string FaultText(const UnhandledRunTimeError& fault);
 
 inline void OrEndProgram(const Status& status) {
   if (!status.ok()) throw UnhandledRunTimeError(status.error());

@@ -31,6 +31,8 @@ class Screens {
   virtual void Unload(Screen& screen) = 0;
   /// The open screen of that name, or none.
   virtual Screen* Find(std::string_view name) = 0;
+  /// The screen whose run is on the air, or none.
+  virtual Screen* OnTheAir() = 0;
 };
 
 }  // namespace quixair

@@ -1,6 +1,7 @@
 #include "station/random/channel_watcher.h"
 
 #include "station/random/day_scheduler.h"
+#include "station/random/overlap_watcher.h"
 #include "station/random/random_form1.h"
 #include "station/random/random_run.h"
 #include "station/random/run_controls.h"
@@ -34,14 +35,16 @@ void ChannelWatcher::Tick() {
   EndThird();
   DropEmptyChannels();
   deck_.SweepEnded();
+  context_.air.Guard(false, [this] { controls_.BeginNext(); });
   scheduler_.Scan();
 }
 
+/// What an operator paused by hand, or holds for an announcer, is not the override's.
 bool ChannelWatcher::WaitWhilePaused() {
   if (!deck_.AudioPaused()) return false;
   const int override_seconds = context_.settings.PauseOverrideSecs;
-  const bool in_set = context_.run.StopSetActive || context_.run.override_outlives_set;
-  if (in_set && override_seconds != 0 && deck_.elapsed() >= override_seconds) controls_.BeginNext();
+  if (deck_.hold() == Hold::kPauseEvent && override_seconds != 0 && deck_.elapsed() >= override_seconds)
+    controls_.BeginNext();
   return true;
 }
 
@@ -54,8 +57,7 @@ void ChannelWatcher::RetireFirstAfterOverlap() {
 /// Counted by the clock from the item's start, not by the channel's position.
 void ChannelWatcher::HandBack() {
   const int overlap = context_.screen.Overlap.seconds();
-  if (deck_.live.LiveRequested() || overlap == 0) return;
-  if (!deck_.plays(2) || !deck_.closed(1)) return;
+  if (overlap == 0 || OverlapHeldOff(context_) || !deck_.plays(2) || !deck_.closed(1)) return;
   if (deck_.length(2) - deck_.elapsed() > overlap + 1) return;
   deck_.OverlapHandBack = true;
   deck_.active = ActiveChannel::kFirst;

@@ -8,6 +8,7 @@
 #include "station/platform/civil_time.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/text.h"
+#include "station/random/item_step.h"
 #include "station/random/random_form1.h"
 #include "station/random/random_run.h"
 
@@ -15,7 +16,14 @@ namespace quixair {
 namespace {
 
 constexpr std::string_view kNoTemplate = "Null";
+constexpr const char* kChooseText =
+    "Select an Existing Template for Playback by Double Clicking or pressing <Enter>...";
 constexpr std::int64_t kMillisecondsOfDay = 86400000;
+
+std::string FourDigits(int number) {
+  const std::string text = std::to_string(number);
+  return std::string(text.size() < 4 ? 4 - text.size() : 0, '0') + text;
+}
 
 bool IsDailyName(std::string_view template_name) {
   return KindOfTemplate(template_name) == TemplateKind::kSatDaily;
@@ -53,9 +61,7 @@ void DayScheduler::PrepareTemplateChoice(bool restarted) {
       restarted ? "A problem occured and your system has been restarted..."
                 : "Select an Existing Template for Playback by Double Clicking or pressing <Enter>...");
   screen.Start.Disable();
-  ShowTemplates(screen.File1, "*.TPL");
-  ShowTemplates(screen.File2, "*.TPD");
-  choice_.Reset();
+  ShowLists();
   if (run.TemplateName.empty()) {
     screen.Frame2.Show();
     screen.File2.SetFocus();
@@ -65,12 +71,32 @@ void DayScheduler::PrepareTemplateChoice(bool restarted) {
       ReadSetting(context_.platform.files, station_paths::kRandomTemplate).value_or(std::string());
 }
 
+void DayScheduler::TellReady() {
+  const bool waits = context_.screen.Frame2.visible();
+  context_.air.status.Tell(waits ? kChooseText : status_text::kReady);
+}
+
+void DayScheduler::ShowLists() {
+  ShowTemplates(context_.screen.File1, "*.TPL");
+  ShowTemplates(context_.screen.File2, "*.TPD");
+  choice_.Reset();
+}
+
 void DayScheduler::Choose(const ChosenTemplate& chosen) {
   if (chosen.way == ChosenTemplate::Way::kDoubleClick) {
     SkipAndGoOn(WriteNumberSetting(context_.platform.files, station_paths::kSatCorrection, 0));
   }
   TakeTemplate(chosen.name);
-  context_.air.status.Tell(status_text::kReady);
+  TellChosen();
+}
+
+/// On the air too a template can be chosen: the record of the run then names it, for a power cut to come.
+void DayScheduler::TellChosen() {
+  const bool running = context_.air.deck.running();
+  context_.air.status.Tell(running ? PlaybackText(context_.run.StopSetActive) : status_text::kReady);
+  if (running) {
+    SkipAndGoOn(WriteRunningRecord(context_.platform.files, kRandomMode, context_.run.TemplateName));
+  }
 }
 
 void DayScheduler::TakeTemplate(const std::string& name) {
@@ -96,6 +122,7 @@ void DayScheduler::DeclineChoice() {
   screen.Start.Enable();
   screen.Command4.Enable();
   LoadSatTemp();
+  TellChosen();
 }
 
 void DayScheduler::LoadSatTemp() {
@@ -104,6 +131,7 @@ void DayScheduler::LoadSatTemp() {
   run.StopSetActive = false;
   run.StopSetIndex = 0;
   screen.List7.Clear();
+  screen.List1.Clear();
   screen.List7.AddRow("--Stop-Set Rotation List--");
   screen.Label8.SetCaption(run.TemplateName);
   const std::string path = station_paths::TemplateFile(run.TemplateName);
@@ -133,7 +161,10 @@ void DayScheduler::TellMissing() {
 void DayScheduler::ShowRows() {
   RandomForm1& screen = context_.screen;
   const StopSetList& list = context_.stop_sets;
-  for (int number = 1; number <= list.count(); ++number) screen.List7.AddRow(list.row(number).EventId);
+  for (int number = 1; number <= list.count(); ++number) {
+    screen.List7.AddRow(list.row(number).EventId);
+    screen.List1.AddRow(FourDigits(number) + ' ' + list.row(number).EventId);
+  }
   // The clock never meets these, and nothing else would say so.
   for (const std::string& time : list.MistypedTimes()) {
     screen.List6.AddFault(time + " = Not a Time as 09:05 AM");
@@ -144,8 +175,18 @@ void DayScheduler::ShowRows() {
 bool DayScheduler::DayHasChanged(const CivilTime& now) {
   const std::int64_t day = MillisecondsFromCivil(now) / kMillisecondsOfDay;
   const bool skipped_midnight = last_day_ != 0 && day > last_day_;
+  if (skipped_midnight && !IsDailyName(context_.run.TemplateName)) BeginDayOfCustomTemplate();
   last_day_ = day;
   return skipped_midnight || (now.hour == 0 && now.minute == 0);
+}
+
+/// It stays in use, and its sets play each day.
+void DayScheduler::BeginDayOfCustomTemplate() {
+  StopSetList& list = context_.stop_sets;
+  for (int number = 1; number <= list.count(); ++number) {
+    list.row(number).marked = false;
+    context_.screen.List7.SetRow(number, list.row(number).text());
+  }
 }
 
 void DayScheduler::ChangeAtMidnight() {
@@ -154,8 +195,6 @@ void DayScheduler::ChangeAtMidnight() {
   if (!DayHasChanged(now) || !IsOfAnotherDay(run.TemplateName, now)) return;
   run.TemplateName = DayOf(now) + ".TPD";
   SkipAndGoOn(WriteRunningRecord(context_.platform.files, kRandomMode, run.TemplateName));
-  // The set is forgotten, not the promise that a pause in it ends by itself.
-  if (context_.air.deck.AudioPaused() && run.StopSetActive) run.override_outlives_set = true;
   context_.screen.Frame2.Hide();
   LoadSatTemp();
 }
@@ -180,7 +219,7 @@ bool DayScheduler::TellWrongDay(const CivilTime& now) {
 
 void DayScheduler::Scan() {
   const CivilTime now = context_.platform.clock.Now();
-  if (TellWrongDay(now)) return;
+  if (context_.settings.BreakType != break_type::kScheduledStopSet || TellWrongDay(now)) return;
   const StopSetList& list = context_.stop_sets;
   if (list.count() == 0) return;
   if (!context_.run.StopSetActive) {
@@ -213,7 +252,7 @@ StopSetState DayScheduler::state(const CivilTime& now) const {
   if (template_load_failed_) return StopSetState::kMissing;
   if (IsOfAnotherDay(run.TemplateName, now)) return StopSetState::kWrongDay;
   if (!run.StopSetActive) return StopSetState::kScanning;
-  if (context_.air.deck.AudioPaused()) return StopSetState::kPaused;
+  if (context_.air.deck.hold() == Hold::kPauseEvent) return StopSetState::kPaused;
   const bool at_its_time = context_.stop_sets.row(run.StopSetIndex).kind == EventKind::kLocalBreak;
   return at_its_time ? StopSetState::kDue : StopSetState::kPlaying;
 }

@@ -30,6 +30,10 @@ class DayScheduler {
   /// Asks the operator for a template, unless he was asked since the last Reset. `restarted`: a power cut's run
   /// goes on, with a template of its own.
   void PrepareTemplateChoice(bool restarted);
+  /// The frame's lists, read anew.
+  void ShowLists();
+  /// What the status line says of a load that is through: the choice is waited for, or the run can begin.
+  void TellReady();
   /// Puts a template of C:\QXTEMPLT in force, as the operator does who chooses it.
   void TakeTemplate(const std::string& name);
 
@@ -42,12 +46,14 @@ class DayScheduler {
 
  private:
   void Choose(const ChosenTemplate& chosen);
+  void TellChosen();
   void DeclineChoice();
   void LoadSatTemp();
   void TellMissing();
   void ShowRows();
   bool TellWrongDay(const CivilTime& now);
   bool DayHasChanged(const CivilTime& now);
+  void BeginDayOfCustomTemplate();
   void MakeDue(int row);
   StopSetState state(const CivilTime& now) const;
 

@@ -113,11 +113,7 @@ ItemSelection::Rule ItemSelection::AfterBreakWithoutSpots() {
 }
 
 ItemSelection::Rule ItemSelection::DecideBreak(std::string_view last_item_id) {
-  if (settings_.BreakType == break_type::kNone) return AfterBreakWithoutSpots();
-  if (pools_.spots.count() < 1) {
-    state_.SongsSinceBreak = 0;
-    return Rule::kDecide;
-  }
+  if (settings_.BreakType == break_type::kNone || pools_.spots.count() < 1) return AfterBreakWithoutSpots();
   if (state_.SongsSinceBreak != settings_.SongsPerBreak)
     return Rule::kLiner;  // due but disabled: it clears its counter
   const bool opens_with_liner = !IsLinerId(last_item_id) && settings_.BreakOpensWithLiner == 1 &&
@@ -205,6 +201,7 @@ ItemSelection::Rule ItemSelection::SelectLiner(WorkingItem& item) {
   }
   if (IsLegalId(item.RecordingId)) return Rule::kLiner;
   state_.SongsSinceLiner = 0;
+  state_.liner_tries = 0;
   state_.LastLinerIndex = row;
   return Rule::kChosen;
 }

@@ -1,5 +1,6 @@
 #include "station/random/overlap_watcher.h"
 
+#include "station/library/recording.h"
 #include "station/random/random_form1.h"
 #include "station/random/random_run.h"
 #include "station/random/sequencing_engine.h"
@@ -15,21 +16,24 @@ void OverlapWatcher::Tick() {
       if (deck.ended(channel)) deck.End(channel, EndCause::kEndOfFile);
     }
   }
-  if (HeldOff() || !PointReached(overlap)) return;
+  if (OverlapHeldOff(context_) || !PointReached(overlap)) return;
   ++context_.run.event_counter;
   deck.OverlapActive = true;
   engine_.PlayNextItem();
 }
 
-bool OverlapWatcher::HeldOff() const {
-  const Deck& deck = context_.air.deck;
-  const RandomSettings& settings = context_.settings;
-  const RotationState& rotation = context_.rotation;
-  const bool break_next =
-      rotation.SongsSinceBreak == settings.SongsPerBreak && settings.BreakType == break_type::kInternalRandom;
-  const bool break_running = rotation.SpotsInBreak > 1 && rotation.SpotsInBreak < settings.MaxSpotsPerBreak;
-  const bool last_spot = rotation.SpotsInBreak == settings.MaxSpotsPerBreak;
-  return break_next || break_running || last_spot || deck.live.LiveRequested() || deck.AudioPaused();
+bool OverlapHeldOff(const RandomContext& context) {
+  const Deck& deck = context.air.deck;
+  const RotationState& rotation = context.rotation;
+  if (deck.live.LiveRequested() || deck.AudioPaused() || context.run.StopSetActive) return true;
+  for (const int channel : {1, 2}) {
+    if (const AirItem* item = deck.item(channel); item != nullptr && IsSpotId(item->id)) return true;
+  }
+  const bool plays_breaks =
+      context.settings.BreakType != break_type::kNone && context.pools.spots.count() > 0;
+  const bool break_next = rotation.SongsSinceBreak == context.settings.SongsPerBreak;
+  const bool break_running = rotation.SpotsInBreak > 1;
+  return plays_breaks && (break_next || break_running);
 }
 
 /// One second before the overlap set, so that the tick that comes up to a second late still keeps it.

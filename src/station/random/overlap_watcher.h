@@ -15,12 +15,14 @@ class OverlapWatcher {
   void Tick();
 
  private:
-  bool HeldOff() const;
   bool PointReached(int overlap);
 
   RandomContext& context_;
   SequencingEngine& engine_;
   double overlap_point_ = 0;  // seconds into channel 1's item
 };
+
+/// Neither way: a live break, a pause, a stop set or a break is on or comes next. Spots lie over nothing.
+bool OverlapHeldOff(const RandomContext& context);
 
 }  // namespace quixair

@@ -16,6 +16,7 @@ RandomForm1::RandomForm1(const Platform& platform)
       playback_(std::make_unique<RandomPlayback>(*this)) {
   for (Control* control : std::array<Control*, 4>{&Text4, &Text7, &Label9, &Frame2}) control->Hide();
   Command4.Disable();
+  Text4.SetText("Random Settings");
   Command3.on_click = [this] {
     const bool show = !List4.visible();
     List4.Show(show);
@@ -36,7 +37,11 @@ void RandomForm1::Load() {
   playback_->Load();
 }
 
-void RandomForm1::CloseWindow() {
+bool RandomForm1::OnTheAir() const {
+  return playback_->running();
+}
+
+void RandomForm1::EndRunOnTheAir() {
   playback_->Leave();
 }
 

@@ -19,8 +19,9 @@ class RandomForm1 : public PlaybackScreen {
   explicit RandomForm1(const Platform& platform);
   ~RandomForm1() override;
   void Load() override;
-  /// The window's frame does what End Run does, before a run what Quit does: no record of a run stays behind.
-  void CloseWindow() override;
+  bool OnTheAir() const override;
+  /// Before a run, as Quit does: no record of a run stays behind.
+  void EndRunOnTheAir() override;
   void ProgramEnds() override;
   OnAirStatus on_air_status() const override;
   std::optional<StopSetStatus> stop_set_status() const override;

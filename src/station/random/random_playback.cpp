@@ -1,6 +1,8 @@
 #include "station/random/random_playback.h"
 
+#include <algorithm>
 #include <chrono>
+#include <utility>
 
 #include "station/console/settings_files.h"
 #include "station/console/station_paths.h"
@@ -9,6 +11,7 @@
 #include "station/platform/civil_time.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/event_gate.h"
+#include "station/random/item_step.h"
 #include "station/random/random_form1.h"
 #include "station/templates/template_file.h"
 
@@ -78,7 +81,7 @@ void RandomPlayback::ConnectControls() {
   screen.Run.GoLive.on_click = [this] { context_.air.GoLive(); };
   screen.Command4.on_click = [&screen] { screen.StartTime.OpenFrame(); };
   screen.List1.on_click = [this] { controls_.ChooseFirstEvent(); };
-  screen.Refresh.on_click = [this] { Load(); };
+  screen.Refresh.on_click = [this] { context_.air.deck.running() ? scheduler_.ShowLists() : Load(); };
   screen.Command5.on_click = [this] { ReadSettings(); };
   screen.Timer1.on_tick = [this] { context_.air.StartWhenDue([this] { controls_.Start(); }); };
   screen.Timer2.on_tick = [this] { watcher_.Tick(); };
@@ -99,25 +102,24 @@ void RandomPlayback::Load() {
   screen.SetTitle("Loading... Please Wait...");
   screen.List3.Clear();
   PrepareScreen();
-  if (!LoadMusic()) return;
-  LoadLiners();
-  LoadLegalIds();
+  shown_pools_.clear();
+  if (!LoadMusic() || !LoadLiners() || !LoadLegalIds()) return;
+  ShowPools();
   LoadStatus(true);  // on a restart this starts the run, before the rest is loaded
   if (context_.settings.BreakType != break_type::kScheduledStopSet) {
     screen.Command4.Enable();
     screen.Label8.SetCaption("Stop Sets: [Disabled]");
   }
   if (context_.settings.BreakType != break_type::kNone) LoadSpotRotation();
-  screen.List1.Clear();  // events come with a template
   screen.Overlap.ReadFile();
   screen.Overlap.save.Hide();
   screen.Overlap.save.Disable();
   if (context_.air.deck.running()) {
     // A power cut's record has started it: what the load told on the way is over.
-    if (!rotation_missing_) context_.air.status.Tell(PlaybackText(context_.run.StopSetActive));
-  } else if (!screen.Frame2.visible()) {
-    context_.air.status.Tell(status_text::kReady);
-    screen.Start.SetFocus();
+    context_.air.status.Tell(PlaybackText(context_.run.StopSetActive));
+  } else {
+    scheduler_.TellReady();
+    if (!screen.Frame2.visible()) screen.Start.SetFocus();
   }
   screen.Timer4.SetInterval(kSettingsTick);
   screen.SetTitle("Random Playback Mode  [4X]");
@@ -142,7 +144,22 @@ void RandomPlayback::ShowProgress(int count, const char* what) {
 }
 
 void RandomPlayback::ShowPoolRow(const std::string& mark, const PoolRow& row) {
-  context_.screen.List3.AddRow(mark + row.RecordingId + "  " + row.Title);
+  shown_pools_.emplace_back(row.RecordingId, mark + row.RecordingId + "  " + row.Title);
+}
+
+/// By id, so that a song can be found; the pools themselves keep the folder's order.
+void RandomPlayback::ShowPools() {
+  std::sort(shown_pools_.begin(), shown_pools_.end());
+  for (auto& [id, row] : shown_pools_) context_.screen.List3.AddRow(std::move(row));
+  shown_pools_.clear();
+}
+
+/// Recordings went while they were counted.
+bool RandomPlayback::RunsDry(const std::vector<std::string>& ids, int count) {
+  if (static_cast<int>(ids.size()) >= count) return false;
+  context_.platform.dialogs.MessageBox("There are not enough files recorded", box_style::kOk, "Quixair");
+  context_.platform.screens.Unload(context_.screen);
+  return true;
 }
 
 bool RandomPlayback::LoadMusic() {
@@ -157,11 +174,7 @@ bool RandomPlayback::LoadMusic() {
                   "will terminate.  Please record at least three (3) music files before using this mode.");
   }
   const std::vector<std::string> ids = ListRecordings(files, "M*.DAT");
-  if (static_cast<int>(ids.size()) < count) {
-    context_.platform.dialogs.MessageBox("There are not enough files recorded", box_style::kOk, "Quixair");
-    context_.platform.screens.Unload(context_.screen);
-    return false;
-  }
+  if (RunsDry(ids, count)) return false;
   music.Reserve(count);
   for (const std::string& id : ids) {
     music.Add(ReadSong(files, id));
@@ -171,7 +184,7 @@ bool RandomPlayback::LoadMusic() {
   return true;
 }
 
-void RandomPlayback::LoadLiners() {
+bool RandomPlayback::LoadLiners() {
   Files& files = context_.platform.files;
   Pool& liners = context_.pools.liners;
   liners.Clear();
@@ -183,6 +196,7 @@ void RandomPlayback::LoadLiners() {
                   "will terminate.  Please record at least three (3) Liner files before using this mode.");
   }
   std::vector<std::string> ids = ListRecordings(files, "L*.DAT");
+  if (RunsDry(ids, count)) return false;
   context_.air.status.Tell(std::to_string(count) + " Files Found...");
   // Only these two spellings: "lL", "ll" and the "Magic Call" liners stay in the pool.
   std::erase_if(ids, [](const std::string& id) { return id.starts_with("LL") || id.starts_with("Ll"); });
@@ -196,9 +210,10 @@ void RandomPlayback::LoadLiners() {
     liners.Add(ReadLiner(files, id));
     ShowPoolRow("", liners.row(liners.count()));
   }
+  return true;
 }
 
-void RandomPlayback::LoadLegalIds() {
+bool RandomPlayback::LoadLegalIds() {
   Files& files = context_.platform.files;
   Pool& legal_ids = context_.pools.legal_ids;
   legal_ids.Clear();
@@ -208,35 +223,40 @@ void RandomPlayback::LoadLegalIds() {
                   "In order to use this mode, you must first record several Legal I.D. files.\n"
                   "Legal I.D. files start with LL.  This program will terminate.");
   }
+  const std::vector<std::string> ids = ListRecordings(files, "LL*.DAT");
+  if (RunsDry(ids, count)) return false;
   context_.air.status.Tell(std::to_string(count) + " Files Found...");
-  for (const std::string& id : ListRecordings(files, "LL*.DAT")) {
+  for (const std::string& id : ids) {
     legal_ids.Add(ReadLegalId(files, id));
     ShowPoolRow("^ ", legal_ids.row(legal_ids.count()));
   }
+  return true;
 }
 
 void RandomPlayback::ReadSettings() {
   context_.settings = ReadRandomSettings(context_.platform.files);
   ApplyPlaybackDefaults(context_.settings);
-  if (rotation_missing_) context_.settings.BreakType = break_type::kNone;
+  // Breaks that are switched on in mid-run have their spots at once.
+  const bool wants_spots = context_.settings.BreakType != break_type::kNone;
+  if (wants_spots && context_.air.deck.running() && context_.pools.spots.count() == 0) LoadSpotRotation();
   ListBox& list = context_.screen.List4;
   if (list.row_count() >= 3) list.Clear();
   for (std::string& row : SettingsPrintOut(context_.settings)) list.AddRow(std::move(row));
 }
 
 void RandomPlayback::LoadStatus(bool at_load) {
-  if (at_load) {
-    rotation_missing_ = false;
-    scheduler_.Reset();
-  }
+  if (at_load) scheduler_.Reset();
   ReadSettings();
   const RestartRecord record = at_load ? ReadRestartRecord(context_.platform.files) : RestartRecord();
-  if (record.running) AnnounceRestart();
+  const bool restarts = record.running && record.mode == kRandomMode;
+  if (restarts) AnnounceRestart();
   if (context_.settings.BreakType == break_type::kScheduledStopSet) {
-    scheduler_.PrepareTemplateChoice(record.running);
-    if (record.running) scheduler_.TakeTemplate(record.template_name);
+    scheduler_.PrepareTemplateChoice(restarts);
+    // A run that knew no template leaves the operator's last choice in force.
+    const std::string& name = record.template_name.empty() ? context_.run.TemplateName : record.template_name;
+    if (restarts && !name.empty()) scheduler_.TakeTemplate(std::string(name));
   }
-  if (record.running) controls_.Start();
+  if (restarts) controls_.Start();
 }
 
 void RandomPlayback::AnnounceRestart() {
@@ -253,23 +273,22 @@ void RandomPlayback::LoadSpotRotation() {
   RandomForm1& screen = context_.screen;
   Files& files = context_.platform.files;
   Pool& spots = context_.pools.spots;
-  context_.air.status.Tell("Loading Spot/PSA Rotation File...");
+  const auto tell = [this](const std::string& text) {
+    if (!context_.air.deck.running()) context_.air.status.Tell(text);
+  };
+  tell("Loading Spot/PSA Rotation File...");
   screen.List5.Clear();
   screen.List5.AddRow("--Internal Random List--");
   spots.Clear();
   const std::string content = files.Read(station_paths::kRotation).value_or({});
   const std::vector<TemplateEvent> events = EventsToFirstEmpty(content, kMaxTemplateLines);
-  if (events.empty()) {
-    context_.air.status.Tell("NO SPOT ROTATION FILES FOUND!!!");
-    rotation_missing_ = true;
-    context_.settings.BreakType = break_type::kNone;
-    return;
-  }
-  for (const TemplateEvent& event : events) screen.List5.AddRow(event.EventId);
   for (const TemplateEvent& event : events) {
+    screen.List5.AddRow(event.EventId);
     spots.Add(ReadRotationSpot(files, event.EventId));
-    ShowProgress(spots.count(), " Spots/PSA's Found...");
   }
+  tell(events.empty() ? "NO SPOT ROTATION FILES FOUND!!!"
+                      : std::to_string(spots.count()) + " Spots/PSA's Found...");
+  screen.Repaint();
 }
 
 }  // namespace quixair

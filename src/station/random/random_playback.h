@@ -5,6 +5,8 @@
 // are about to, DayScheduler that a stop set is due, RunControls is the operator. The screen owns one of these.
 
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "station/random/channel_watcher.h"
 #include "station/random/day_scheduler.h"
@@ -25,6 +27,7 @@ class RandomPlayback {
   /// Ends the run, or quits before one, and takes the screen away.
   void Leave();
   void ProgramEnds() { context_.air.deck.EndAll(EndCause::kProgramEnds); }
+  bool running() const { return context_.air.deck.running(); }
   OnAirStatus status() const;
   const DayScheduler& scheduler() const { return scheduler_; }
 
@@ -33,8 +36,9 @@ class RandomPlayback {
   void TellProofWritten(const Status& written);
   void PrepareScreen();
   bool LoadMusic();
-  void LoadLiners();
-  void LoadLegalIds();
+  bool LoadLiners();
+  bool LoadLegalIds();
+  bool RunsDry(const std::vector<std::string>& ids, int count);
   /// `at_load`: a running restart record is acted upon only when the screen loads, not at the later
   /// refreshes.
   void LoadStatus(bool at_load);
@@ -44,6 +48,7 @@ class RandomPlayback {
   /// A count and what it counts, as often as an eye can follow.
   void ShowProgress(int count, const char* what);
   void ShowPoolRow(const std::string& mark, const PoolRow& row);
+  void ShowPools();
 
   RandomContext context_;
   SequencingEngine engine_;
@@ -51,7 +56,7 @@ class RandomPlayback {
   DayScheduler scheduler_;
   ChannelWatcher watcher_;
   OverlapWatcher overlap_;
-  bool rotation_missing_ = false;  // breaks stay off until the next load
+  std::vector<std::pair<std::string, std::string>> shown_pools_;  // while they are loaded: id, row
   SteadyTime last_progress_{};
 };
 

@@ -18,11 +18,11 @@ namespace quixair {
 class RandomForm1;
 
 struct RandomRun {
-  bool StopSetActive = false;          // the next step belongs to the day's stop sets
-  int StopSetIndex = 0;                // row of the set's time, then of the item in play
-  bool override_outlives_set = false;  // a pause in a set that the change of the day took away
-  int event_counter = 1;               // only counts in this mode
+  bool StopSetActive = false;  // the next step belongs to the day's stop sets
+  int StopSetIndex = 0;        // row of the set's time, then of the item in play
+  int event_counter = 1;       // only counts in this mode
   int first_event = 0;
+  std::string shown_id;      // of the recording that the labels tell; empty for what is none
   std::string TemplateName;  // "MON.TPD", a custom name, or "Null" when the operator declined
 };
 

@@ -6,6 +6,7 @@
 #include "station/console/settings_files.h"
 #include "station/platform/civil_time.h"
 #include "station/platform/text.h"
+#include "station/random/item_step.h"
 #include "station/random/random_form1.h"
 #include "station/random/random_run.h"
 #include "station/random/sequencing_engine.h"
@@ -13,6 +14,7 @@
 namespace quixair {
 
 void RunControls::Start() {
+  if (!context_.air.MayBegin()) return;
   RandomRun& run = context_.run;
   RandomForm1& screen = context_.screen;
   SkipAndGoOn(WriteRunningRecord(context_.platform.files, kRandomMode, run.TemplateName));
@@ -33,9 +35,9 @@ void RunControls::Pause() {
 }
 
 void RunControls::Continue() {
+  if (!context_.air.deck.running()) return;  // a transport bar before the run
   context_.air.deck.GoOn();
   context_.air.status.Tell(PlaybackText(context_.run.StopSetActive));
-  context_.run.override_outlives_set = false;
   context_.screen.Run.ShowResumed();
   if (context_.air.EndLiveBreak()) engine_.PlayNextItem();
 }
@@ -43,13 +45,15 @@ void RunControls::Continue() {
 void RunControls::BeginNext() {
   RandomForm1& screen = context_.screen;
   Deck& deck = context_.air.deck;
+  if (screen.Switches.pause_after_next()) context_.air.PauseNextPending = true;
+  ++context_.run.event_counter;
+  const bool live_over = deck.live.on();
   if (deck.AudioPaused()) Continue();
+  if (live_over) return;  // its end has started the next item
   deck.EndAll(EndCause::kSkipped);
   deck.OverlapActive = false;
-  ++context_.run.event_counter;
-  screen.Run.RequeueCommand.Disable();
+  screen.Run.RequeueCommand.Disable();  // until an item is heard
   screen.Run.BeginNextCommand.Disable();
-  if (screen.Switches.pause_after_next()) context_.air.PauseNextPending = true;
   engine_.PlayNextItem();
 }
 

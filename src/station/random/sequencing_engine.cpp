@@ -1,41 +1,38 @@
 #include "station/random/sequencing_engine.h"
 
 #include "station/console/station_paths.h"
-#include "station/library/item_resolution.h"
 #include "station/library/recording.h"
+#include "station/onair/nested_call.h"
 #include "station/platform/civil_time.h"
-#include "station/platform/text.h"
+#include "station/random/item_step.h"
 #include "station/random/random_form1.h"
 #include "station/random/random_run.h"
 
 namespace quixair {
-std::string PlaybackText(bool stop_set) {
-  return stop_set ? std::string(33, ' ') + "Digital Audio Playback in Progress - [Stop Set]"
-                  : std::string(48, ' ') + "Digital Audio Playback in Progress";
-}
 
 SequencingEngine::SequencingEngine(RandomContext& context)
     : context_(context),
-      selection_(context.settings, context.pools, context.rotation, context.platform.random) {}
+      selection_(context.settings, context.pools, context.rotation, context.platform.random),
+      stop_set_step_(context, [this] { PlayNextItem(); }) {}
 
 void SequencingEngine::PlayNextItem() {
   if (depth_ >= kMaxNestedSteps) return;
-  ++depth_;
+  const NestedCall nested(depth_);
   Step();
-  --depth_;
 }
 
 void SequencingEngine::Step() {
   RememberLastItem();
   if (context_.air.deck.live.LiveRequested()) {
     context_.air.HoldForLive();
-    shown_id_.clear();
+    context_.run.shown_id.clear();
     return;
   }
   ItemOrigin origin = ItemOrigin::kLegalId;
   if (!TakeLegalId(item_)) {
-    if (context_.run.StopSetActive) {
-      PlayStopSetRow();
+    // A break that has been opened with a liner is not torn apart by a set that is due.
+    if (context_.run.StopSetActive && context_.rotation.ForceBreak != 1) {
+      stop_set_step_.PlayNextRow();
       return;
     }
     if (!selection_.Choose(last_item_id_, item_)) return;
@@ -48,7 +45,7 @@ void SequencingEngine::Step() {
 void SequencingEngine::RememberLastItem() {
   RandomForm1& screen = context_.screen;
   for (std::size_t row = 0; row < 2; ++row) screen.LastLabel[row].SetCaption(screen.CurrLabel[row].caption());
-  last_item_id_ = shown_id_;
+  last_item_id_ = context_.run.shown_id;
 }
 
 /// Comes before the stop set too.
@@ -68,24 +65,12 @@ bool SequencingEngine::TakeLegalId(WorkingItem& item) {
 void SequencingEngine::StartItem(const WorkingItem& item, ItemOrigin origin) {
   if (IsSpotId(item.RecordingId)) CheckSpot(item);
   ShowHint(item);
-  ShowItem(item);
-  shown_id_ = item.RecordingId;
+  ShowItem(context_, item, item.RecordingId);
   context_.air.ShowTurn(1);
-  const AirItem air_item = AirItemOf(item, origin);
+  const AirItem air_item = AirItemOf(context_, item, origin);
   // Behind a nested step the replacement is on the air, and the refused item stands in the proof beside it.
   if (!StartOnFreeChannel(air_item) && context_.air.deck.AnythingSounds()) context_.proof.Write(air_item);
   context_.air.EndStep();
-}
-
-/// With neither file there, the path without an extension cannot be opened, and is what gets reported.
-AirItem SequencingEngine::AirItemOf(const WorkingItem& item, ItemOrigin origin) const {
-  const std::string extension =
-      FindAudioFile(context_.platform.files, item.Drive, item.RecordingId).value_or(std::string());
-  return {.id = item.RecordingId,
-          .path = station_paths::AudioFile(item.Drive, item.RecordingId, extension),
-          .first_text = item.first_text,
-          .title = item.Title,
-          .origin = origin};
 }
 
 /// Channel 1 when it does not play; channel 2 when it does and the overlap wants a second item. Behind a
@@ -113,28 +98,11 @@ void SequencingEngine::CheckSpot(const WorkingItem& item) {
     PlayNextItem();
     return;
   }
-  const auto refusal = RefusalOfSpot(item.RecordingId);
+  const auto refusal = RefusalOfSpot(context_, item.RecordingId);
   if (!refusal) return;
   ++context_.run.event_counter;
-  Refuse(item.RecordingId + *refusal);
+  TellRefusal(context_, item.RecordingId + *refusal);
   PlayNextItem();
-}
-
-std::optional<std::string> SequencingEngine::RefusalOfSpot(const std::string& id) {
-  if (!IsSpotId(id)) return std::nullopt;
-  Files& files = context_.platform.files;
-  const SpotDateSwitch date_check = ReadSpotDateSwitch(files);
-  if (date_check == SpotDateSwitch::kUnknown)
-    context_.screen.Switches.Check4.SetCaption(SpotDateCaption(date_check));
-  if (date_check != SpotDateSwitch::kOn) return std::nullopt;
-  Recording spot(id);
-  SkipAndGoOn(spot.Read(files));
-  return SpotDateRefusal(spot.value(Field::kStartDate), spot.value(Field::kKillDate),
-                         context_.platform.clock.Now());
-}
-
-void SequencingEngine::Refuse(const std::string& row) {
-  context_.air.faults.Add(row, ' ' + row);
 }
 
 void SequencingEngine::ShowHint(const WorkingItem& item) {
@@ -155,16 +123,6 @@ void SequencingEngine::ShowHint(const WorkingItem& item) {
     if (settings.LinerEnable == 0) context_.screen.Text3.SetText(" (Music File Coming Up)");
   }
   if (item.RecordingId.starts_with('S')) hint.SetText(" (Playing Break Now)  ");
-}
-
-void SequencingEngine::ShowItem(const WorkingItem& item) {
-  RandomForm1& screen = context_.screen;
-  context_.air.status.Tell(PlaybackText(context_.run.StopSetActive));
-  for (std::size_t row = 0; row < 4; ++row) screen.CurrLabel[row].SetForeColor(kWhite);
-  screen.CurrLabel[0].SetCaption(' ' + item.RecordingId + "  " + item.first_text);
-  screen.CurrLabel[1].SetCaption(' ' + item.Title);
-  screen.CurrLabel[2].SetCaption(" Length:   " + item.Length);
-  screen.CurrLabel[3].SetCaption(" Elapsed: ");
 }
 
 }  // namespace quixair

@@ -9,16 +9,15 @@
 // wanted; a reviewer should expect it. The nesting is bounded: when nothing can be opened at all, the
 // innermost call returns at once and the watcher tries again at its later ticks.
 
-#include <optional>
 #include <string>
 
 #include "station/onair/air_item.h"
 #include "station/random/item_selection.h"
+#include "station/random/stop_set_step.h"
 
 namespace quixair {
 
 struct RandomContext;
-struct StopSetRow;
 
 class SequencingEngine {
  public:
@@ -34,32 +33,16 @@ class SequencingEngine {
   void StartItem(const WorkingItem& item, ItemOrigin origin);
 
   void CheckSpot(const WorkingItem& item);
-  /// Why a spot's dates keep it off the air today, when the check is on; none for any other kind.
-  std::optional<std::string> RefusalOfSpot(const std::string& id);
-  void Refuse(const std::string& row);
   void ShowHint(const WorkingItem& item);
-  void ShowItem(const WorkingItem& item);
-  AirItem AirItemOf(const WorkingItem& item, ItemOrigin origin) const;
   bool StartOnFreeChannel(const AirItem& item);
   bool BeginOrReplace(int channel, const AirItem& item);
 
-  // stop_set_step.cpp
-  void PlayStopSetRow();
-  void PauseInStopSet(const StopSetRow& row);
-  void AnnounceTime();
-  void PlayStopSetRecording(int number);
-  void ShowStopSetItem(const WorkingItem& item);
-  void PlayOnFirst(const AirItem& item);
-
   RandomContext& context_;
   ItemSelection selection_;
-  WorkingItem item_;      // what the last choice stood at; a choice may leave it as it is
-  std::string shown_id_;  // of what the labels tell; empty for what is no recording
+  StopSetStep stop_set_step_;
+  WorkingItem item_;  // what the last choice stood at; a choice may leave it as it is
   std::string last_item_id_;
   int depth_ = 0;
 };
-
-/// The status text of a run; a stop set has its own.
-std::string PlaybackText(bool stop_set);
 
 }  // namespace quixair

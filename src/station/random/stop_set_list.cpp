@@ -22,7 +22,7 @@ void ReadData(Files& files, StopSetRow& row) {
   SkipAndGoOn(recording.Read(files));
   row.Length = recording.value(Field::kLength);
   row.Drive = recording.value(Field::kDrive);
-  row.Title = recording.value(Field::kSecondLabel);
+  row.Title = recording.value(Field::kTitle);
 }
 
 StopSetRow RowOf(TemplateEvent event) {

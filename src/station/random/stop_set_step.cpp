@@ -1,16 +1,15 @@
-// The part of the sequencing step that plays the day's stop sets: one row of the set in play per call.
+#include "station/random/stop_set_step.h"
 
 #include "station/console/station_paths.h"
 #include "station/library/item_resolution.h"
-#include "station/library/recording.h"
 #include "station/platform/civil_time.h"
+#include "station/random/item_step.h"
 #include "station/random/random_form1.h"
 #include "station/random/random_run.h"
-#include "station/random/sequencing_engine.h"
 
 namespace quixair {
 
-void SequencingEngine::PlayStopSetRow() {
+void StopSetStep::PlayNextRow() {
   RandomRun& run = context_.run;
   ++run.StopSetIndex;
   context_.air.deck.End(1, EndCause::kEndOfFile);
@@ -25,39 +24,41 @@ void SequencingEngine::PlayStopSetRow() {
   const StopSetRow& row = context_.stop_sets.row(run.StopSetIndex);
   switch (row.kind) {
     case EventKind::kPause:
-      PauseInStopSet(row);
+      PauseAt(row);
       break;
     case EventKind::kTimeAnnouncement:
       AnnounceTime();
       break;
     default:
-      PlayStopSetRecording(run.StopSetIndex);
+      PlayRecording(run.StopSetIndex);
   }
 }
 
-void SequencingEngine::PauseInStopSet(const StopSetRow& row) {
+void StopSetStep::PauseAt(const StopSetRow& row) {
   RandomForm1& screen = context_.screen;
   const int override_seconds = context_.settings.PauseOverrideSecs;
   const std::string length = override_seconds == 0 ? "[Override is OFF]" : std::to_string(override_seconds);
-  ShowStopSetItem({.RecordingId = row.text(),
-                   .Drive = {},
-                   .first_text = {},
-                   .Title = "Audio is Paused",
-                   .Length = length});
+  Show({.RecordingId = row.text(),
+        .Drive = {},
+        .first_text = {},
+        .Title = "Audio is Paused",
+        .Length = length},
+       {});
   context_.air.status.Tell(status_text::kPauseEvent);
   screen.CurrLabel[4].SetCaption("");
   context_.air.deck.HoldFor(Hold::kPauseEvent);
+  screen.Run.BeginNextCommand.Enable();  // the line asks for it
 }
 
-void SequencingEngine::AnnounceTime() {
+void StopSetStep::AnnounceTime() {
   RandomForm1& screen = context_.screen;
   const CivilTime now = context_.platform.clock.Now();
   const std::string path = TimeFileName(now);
   if (!context_.platform.files.Exists(path)) {
-    PlayNextItem();
+    play_next_();
     return;
   }
-  ShowStopSetItem({});
+  Show({}, {});
   screen.CurrLabel[0].SetCaption("Playing Current Time");
   screen.CurrLabel[1].SetCaption(FourDigitHourMinute(now));
   screen.CurrLabel[3].SetCaption(" ");
@@ -69,22 +70,20 @@ void SequencingEngine::AnnounceTime() {
                .row = context_.run.StopSetIndex});
 }
 
-/// A row that is refused hands over to the next one and ends here. The rows are told by their number, which
-/// has moved on by then: going on would show, and at the end of a set even play, what was refused.
-void SequencingEngine::PlayStopSetRecording(int number) {
+void StopSetStep::PlayRecording(int number) {
   Files& files = context_.platform.files;
   StopSetRow& row = context_.stop_sets.row(number);
   if (!files.Exists(station_paths::DataFile(row.EventId))) {
-    PlayNextItem();
+    play_next_();
     return;
   }
-  const auto refusal = RefusalOfSpot(row.EventId);
+  const auto refusal = RefusalOfSpot(context_, row.EventId);
   row.marked = true;
   context_.screen.List7.SetRow(number, row.text());
   if (refusal) {
     ++context_.run.event_counter;
-    Refuse(row.EventId + *refusal);
-    PlayNextItem();
+    TellRefusal(context_, row.EventId + *refusal);
+    play_next_();
     return;
   }
   const WorkingItem item{.RecordingId = row.EventId,
@@ -94,25 +93,21 @@ void SequencingEngine::PlayStopSetRecording(int number) {
                          .Length = row.Length};
   WorkingItem shown = item;
   shown.RecordingId = row.text();
-  ShowStopSetItem(shown);
-  shown_id_ = row.EventId;
-  AirItem air_item = AirItemOf(item, ItemOrigin::kStopSet);
-  air_item.row = number;
-  PlayOnFirst(air_item);
+  Show(shown, row.EventId);
+  PlayOnFirst(AirItemOf(context_, item, ItemOrigin::kStopSet, number));
 }
 
-void SequencingEngine::ShowStopSetItem(const WorkingItem& item) {
+void StopSetStep::Show(const WorkingItem& item, const std::string& id) {
   RandomForm1& screen = context_.screen;
   screen.Text7.Show();
   screen.Text7.SetText("STOP-SET PLAYING");
-  ShowItem(item);
-  shown_id_.clear();
+  ShowItem(context_, item, id);
   for (std::size_t label = 0; label < 4; ++label) screen.CurrLabel[label].SetForeColor(kYellow);
 }
 
-void SequencingEngine::PlayOnFirst(const AirItem& item) {
+void StopSetStep::PlayOnFirst(const AirItem& item) {
   if (!context_.air.Begin(1, item)) {
-    PlayNextItem();
+    play_next_();
     return;
   }
   context_.air.EndStep();

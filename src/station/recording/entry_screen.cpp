@@ -1,5 +1,6 @@
 #include "station/recording/entry_screen.h"
 
+#include "station/console/station_paths.h"
 #include "station/library/hand_over_files.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/programs.h"
@@ -40,7 +41,7 @@ void EntryScreen::ConnectButtons() {
   Command7.on_click = [this] { CloseWindow(); };
   Command8.on_click = [this] { Load(); };
   Command9.on_click = [this] { RecordNow(); };
-  OLE1.on_click = [this] { platform_.programs.Run("C:\\WINDOWS\\sndvol32.exe"); };
+  OLE1.on_click = [this] { platform_.programs.Run(std::string(station_paths::kMixer)); };
 }
 
 void EntryScreen::ConnectId() {

@@ -1,5 +1,6 @@
 #include "station/recording/recorder_panel.h"
 
+#include "station/console/station_paths.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/files.h"
 #include "station/platform/programs.h"
@@ -49,7 +50,7 @@ void RecorderPanel::Connect() {
     MMWaveRecorderX.Listen();
   };
   SaveSettingsButton.on_click = [this] { SaveSettings(); };
-  OLE1.on_click = [this] { screen_.platform().programs.Run("C:\\WINDOWS\\sndvol32.exe"); };
+  OLE1.on_click = [this] { screen_.platform().programs.Run(std::string(station_paths::kMixer)); };
   MMWaveRecorderX.on_started = [this] {
     RecordBtn.Disable();
     StopBtn.Enable();

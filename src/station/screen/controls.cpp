@@ -71,7 +71,7 @@ void Control::Changed(Aspect aspect) {
 
 void Control::RaiseForPerson(const std::function<void()>& event) {
   if (!visible_to_person() || !enabled_for_person()) return;
-  screen_.platform().gate.Enter(event);
+  screen_.platform().gate.Enter([this, &event] { screen_.RunGuarded(event); });
 }
 
 void Control::Show(bool visible) {
@@ -383,7 +383,7 @@ void Timer::Tick() {
       ~InTick() { flag_ = false; }  // here, since behind the gate a screen unloaded by its own tick is gone
       bool& flag_;
     } const in_tick(in_tick_);
-    on_tick();
+    screen().RunGuarded(on_tick);
   });
 }
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "station/platform/dialogs.h"
+#include "station/platform/event_gate.h"
 #include "station/platform/text.h"
 
 namespace quixair {
@@ -19,6 +21,29 @@ void Screen::CloseWindow() {
 
 void Screen::Unload() {
   platform_.screens.Unload(*this);
+}
+
+void Screen::RunGuarded(const std::function<void()>& work) {
+  constexpr int kSecondsToAnswer = 60;
+  constexpr int kFaultBox = box_style::kOk + box_style::kCritical;
+  try {
+    work();
+  } catch (const UnhandledRunTimeError& fault) {
+    const bool alone = EndsAlone();
+    if (!alone && !OnTheAir()) throw;
+    platform_.dialogs.NoticeBox(FaultText(fault), kFaultBox, "Quixair", kSecondsToAnswer);
+    if (!alone) EndProgram(1);
+    Unload();
+  } catch (const ProgramEnd&) {
+    if (platform_.gate.ended() || !EndsAlone()) throw;
+    Unload();
+  }
+}
+
+/// The air goes on whatever happens in a screen beside it.
+bool Screen::EndsAlone() const {
+  const Screen* on_air = platform_.screens.OnTheAir();
+  return on_air != nullptr && on_air != this && !IsWholeProgram();
 }
 
 void Screen::SetTitle(std::string title) {

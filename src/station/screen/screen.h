@@ -3,6 +3,7 @@
 // A screen: a window of the program as a plain class whose members are controls. It owns what it loads for as
 // long as it is open; nothing outlives it but what it wrote. Both front ends reach its controls by name.
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,6 +43,10 @@ class Screen : public ControlOwner {
   virtual void Load() {}
   /// A person closed the window by its frame; the default unloads.
   virtual void CloseWindow();
+  /// Its run is on the air.
+  virtual bool OnTheAir() const { return false; }
+  /// Ends that run and takes the screen away.
+  virtual void EndRunOnTheAir() {}
   /// The program ends with this screen open: what must not be lost is saved, with no box.
   virtual void ProgramEnds() {}
 
@@ -57,6 +62,11 @@ class Screen : public ControlOwner {
   Control* FindControl(std::string_view name) const;
   Control* focused() const { return focused_; }
 
+  /// Runs an event of this screen, or a part of one. While another screen's run is on the air, a fault without a
+  /// rule, or an end of the program that this screen asks for, ends this screen alone; a fault that ends the run on
+  /// the air shows its box no longer than a minute.
+  void RunGuarded(const std::function<void()>& work);
+
   /// Lets a long step show its progress.
   void Repaint();
   void set_observer(ScreenObserver* observer) { observer_ = observer; }
@@ -68,10 +78,14 @@ class Screen : public ControlOwner {
  protected:
   /// Takes this screen away at the end of the running event.
   void Unload();
+  /// The program ends when this screen asks for it, whatever is on the air.
+  virtual bool IsWholeProgram() const { return false; }
 
   const Platform& platform_;
 
  private:
+  bool EndsAlone() const;
+
   friend class Control;
   void Register(Control& control) { controls_.push_back(&control); }
   void ControlChanged(Control& control, Aspect aspect);

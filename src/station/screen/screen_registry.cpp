@@ -26,7 +26,7 @@ void ScreenRegistry::Open(std::string_view name, const ScreenOpening& opening) {
   screen.Prepare(opening);
   open_.push_back(std::move(made));
   if (observer_ != nullptr) observer_->ScreenOpened(screen);
-  screen.Load();
+  screen.RunGuarded([&screen] { screen.Load(); });
 }
 
 void ScreenRegistry::Unload(Screen& screen) {
@@ -48,6 +48,13 @@ void ScreenRegistry::Unload(Screen& screen) {
 Screen* ScreenRegistry::Find(std::string_view name) {
   for (const auto& screen : open_) {
     if (EqualsIgnoringCase(screen->name(), name)) return screen.get();
+  }
+  return nullptr;
+}
+
+Screen* ScreenRegistry::OnTheAir() {
+  for (const auto& screen : open_) {
+    if (screen->OnTheAir()) return screen.get();
   }
   return nullptr;
 }

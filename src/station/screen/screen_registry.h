@@ -52,6 +52,7 @@ class ScreenRegistry : public Screens {
   void Open(std::string_view name, const ScreenOpening& opening = {}) override;
   void Unload(Screen& screen) override;
   Screen* Find(std::string_view name) override;
+  Screen* OnTheAir() override;
 
   /// In the order of their opening.
   std::vector<Screen*> OpenScreens() const;

@@ -101,6 +101,7 @@ TEST_F(PickListOperator, EndRunQuitAndWindow_LeaveTheCleanRecord) {
     OpenList();
     if (std::string_view(way) != "Command2") Click(kPick, "Start");
     if (std::string_view(way) == "window") {
+      QueueAnswer("Yes");
       station_.Do([this] { station_.FindScreen(kPick)->CloseWindow(); });
     } else {
       Click(kPick, way);

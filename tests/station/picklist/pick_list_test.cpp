@@ -135,18 +135,57 @@ TEST_F(PickList, NothingPlayableInARepeatedList_KeepsTheScreenAliveAndGoesOn) {
   EXPECT_TRUE(Plays(1));
 }
 
-TEST_F(PickList, LocalBreakAndLostDataFile_WaitForTheOperator) {
+TEST_F(PickList, LocalBreakStandsAndALostDataFileIsLeftToTheGuardWithAnOverlapToo) {
   for (const char* id : {"06:30 PM", "MGONE"}) {
-    PutList({"M0001", id, "M0002", "M0003"});
-    ForgetAired();
+    const bool stands = id[0] == '0';
+    for (const int overlap : {0, 5}) {
+      for (const Ids& list : {Ids{"M0001", id, "M0002"}, Ids{"M0001", "M0003", id, "M0002"}}) {
+        SCOPED_TRACE(std::string(id) + " overlap " + std::to_string(overlap));
+        const Ids before(list.begin(), list.end() - 2);
+        SetOverlap(overlap);
+        PutList(list);
+        ForgetAired();
+        StartList();
+        Advance(20s * static_cast<int>(before.size()) - 1s * overlap * static_cast<int>(before.size() - 1) +
+                2s);
+        EXPECT_EQ(AiredIds(), before);
+        Advance(8s);
+        EXPECT_EQ(AiredIds().size(), before.size() + (stands ? 0 : 1));
+        if (stands) Click(kPick, "BeginNextCommand");
+        EXPECT_EQ(AiredIds().back(), "M0002");
+        station_.PowerCut();
+        PutFile("QXAIR/RESET.DTA", "");
+      }
+    }
+  }
+}
+
+TEST_F(PickList, RestartAfterAMenuActInTheRun_PlaysWhatTheRecordNames) {
+  PutFile("QXAIR/RESETON.DTA", "\"1\"\r\n");
+  PutTemplate("B.TPP", {"M0005", "M0006", "M0007"});
+  for (const char* mode : {"2", "4", "0"}) {
+    PutList({"M0001", "M0002", "M0003"});
     StartList();
-    Advance(5min);
-    EXPECT_EQ(AiredIds(), Ids{"M0001"}) << id;
-    EXPECT_EQ(EventText(), "Event #: 2 out of 4");
-    Click(kPick, "BeginNextCommand");
-    EXPECT_EQ(AiredIds(), (Ids{"M0001", "M0002"})) << id;
+    Advance(21s);
+    HandOver(mode, "B.TPP");  // as an editor or Run Template leave it
+    station_.PowerCut();
+    ForgetAired();
+    StartConsole();
+    EXPECT_EQ(AiredIds(), Ids{"M0002"}) << mode;
+    EXPECT_EQ(Shown(kPick, "Label7"), "A.TPP");
+    EXPECT_EQ(FileText("QXAIR/PIKMODE.DTA"), "\"0\"\r\n");
+    EXPECT_EQ(FileText("QXAIR/STOREPIK.DTA"), "\"A.TPP\"\r\n");
+    Click(kPick, "EndRunCommand");
     station_.PowerCut();
   }
+}
+
+TEST_F(PickList, RemainingTime_IsTrueBehindAnEmptyFile) {
+  AddAudio("M0002", 0);
+  PutList({"M0001", "M0002", "M0003"});
+  StartList();
+  Advance(25s);  // 5 of the third
+  EXPECT_EQ(Shown(kPick, "TotalRemain(0)").substr(0, 3), "15.");
 }
 
 TEST_F(PickList, LocalBreakFirstWithOverlap_IsNotTheOverlapTicksToMoveOn) {
@@ -217,7 +256,9 @@ TEST_F(PickList, DateThatIsNone_EndsTheProgram) {
   OpenList();
   Click(kPick, "Start", {"OK"});
   EXPECT_FALSE(station_.running());
-  EXPECT_EQ(boxes().back().text, "Run-time error '13'");
+  EXPECT_EQ(boxes().back().text,
+            "Run-time error '13'\nS1: start date soon is not a date. Record / Spots / Edit Data");
+  EXPECT_NE(FileText("QXAIR/QXERROR.LOG").find("S1: start date soon is not a date"), std::string::npos);
 }
 
 TEST_F(PickList, DiskFull_EndsTheProgramUnlikeInRandom) {

@@ -104,6 +104,41 @@ TEST_F(Overlap, Break_PlaysItemByItemAndTheLinerBesideItOverlaps) {
   EXPECT_TRUE(liner_overlapped);
 }
 
+TEST_F(Overlap, Spots_LieOverNothingWhateverTheBreakAndTheChannel) {
+  AddLibrary(12, 4, 2, 30000);
+  AddSpot("S0", 30000);
+  for (const char* id : {"S1", "S2", "S3", "S4", "S5"}) AddSpot(id, 30000);
+  for (const std::vector<std::string>& rotation :
+       {std::vector<std::string>{"S1", "S2", "S3", "S4", "S5"}, std::vector<std::string>{"S1"}}) {
+    for (const int type : {1, 2}) {
+      for (const int most : {1, 3}) {
+        PutRotation(rotation);
+        Use({.SongsPerLiner = 500,
+             .SongsPerBreak = 3,
+             .MaxSpotsPerBreak = most,
+             .LinerEnable = 1,
+             .BreakType = type});
+        PutTemplate("SUN.TPD", {"08:41 PM", "S0", "08:43 PM", "S0"});
+        SetOverlap(5);
+        ForgetAired();
+        type == 2 ? StartRandomWith("SUN.TPD") : StartRandom();
+        Advance(20min);
+        int overlaps = 0;
+        for (std::size_t i = 1; i < aired().size(); ++i) {
+          const int gap = (SecondsFromStart(i) - SecondsFromStart(i - 1) + 3600) % 3600;
+          const bool beside_spot = aired()[i].id[0] == 'S' || aired()[i - 1].id[0] == 'S';
+          EXPECT_TRUE(gap >= 30 || !beside_spot) << aired()[i].id << " at " << aired()[i].time;
+          overlaps += gap < 30 ? 1 : 0;
+        }
+        EXPECT_GT(overlaps, 3) << "type " << type << " most " << most;
+        Click(kForm, "EndRunCommand");
+        station_.PowerCut();
+        SetClock("2026-11-22 20:30:00");
+      }
+    }
+  }
+}
+
 TEST_F(Overlap, LiveRequested_HoldsTheOverlapOff) {
   AddLibrary(12, 2, 2, 30000);
   SetOverlap(5);

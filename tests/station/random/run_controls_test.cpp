@@ -82,10 +82,14 @@ TEST_F(RunControlsOnAir, BeginNext_SkipsToTheNextItem) {
   Press("BeginNextCommand");
   EXPECT_EQ(aired().size(), 2U);
   EXPECT_EQ(Mode(), ChannelMode::kPlaying);
-  EXPECT_FALSE(Enabled("BeginNextCommand")) << "until Continue";
-  Press("ContinueCommand");
-  EXPECT_TRUE(Enabled("BeginNextCommand"));
-  EXPECT_EQ(aired().size(), 2U);
+  EXPECT_TRUE(Enabled("BeginNextCommand") && Enabled("RequeueCommand")) << "it is heard";
+  AddAudio(aired().back().id, 0);
+  Press("GoLive");
+  Advance(11s);
+  EXPECT_EQ(Shown("RandomForm1", "GoLive"), "LIVE NOW!");
+  Press("BeginNextCommand");
+  EXPECT_EQ(State(), AirState::kPlaying);
+  EXPECT_EQ(aired().size(), 3U) << "one item, not two";
 }
 
 TEST_F(RunControlsOnAir, BeginNextWithItsPause_CuesTheItem) {
@@ -156,9 +160,41 @@ TEST_F(RunControlsOnAir, EndRun_ClosesTheChannelsAndTheScreenAndCleansTheRecord)
 TEST_F(RunControlsOnAir, WindowClosedInMidRun_EndsTheRunAsItsButtonDoes) {
   StartRandom();
   Advance(4s);
-  station_.Do([this] { station_.FindScreen("RandomForm1")->CloseWindow(); });
-  EXPECT_FALSE(IsOpen("RandomForm1"));
+  for (const char* answer : {"No", "Yes"}) {
+    QueueAnswer(answer);
+    station_.Do([this] { station_.FindScreen("RandomForm1")->CloseWindow(); });
+    EXPECT_EQ(boxes().back().text, "Playback is on the air. End the run?");
+    EXPECT_EQ(IsOpen("RandomForm1"), std::string_view(answer) == "No");
+  }
   EXPECT_EQ(FileText("QXAIR/RESET.DTA"), kClean);
+}
+
+TEST_F(RunControlsOnAir, FaultsBesideTheRun_LeaveItOnTheAir) {
+  StartRandom();
+  Advance(4s);
+  PutFile("QXTEMPLT/A.TPL", "\"S1\",\"no last record\"\r\n");
+  station_.Do([this] { station_.platform().screens.Open("ErrorLog"); });
+  Screen& beside = *station_.FindScreen("ErrorLog");
+  QueueAnswer("OK");
+  station_.Do([&beside] { beside.RunGuarded([] { OrEndProgram(RunTimeError::kInputPastEnd); }); });
+  EXPECT_EQ(boxes().back().text, "Run-time error '62'");
+  EXPECT_FALSE(IsOpen("ErrorLog"));
+  EXPECT_TRUE(station_.running());
+  EXPECT_EQ(State(), AirState::kPlaying);
+}
+
+TEST_F(RunControlsOnAir, StartOfTheOtherMode_AsksAndNeverSoundsBesideIt) {
+  StartRandom();
+  PutTemplate("A.TPP", {"M0001", "M0002"});
+  PutFile("QXAIR/PIKMODE.DTA", "\"0\"\r\n");
+  PutFile("QXAIR/STOREPIK.DTA", "\"A.TPP\"\r\n");
+  station_.Do([this] { station_.platform().screens.Open("PickListForm1"); });
+  Click("PickListForm1", "Start", {"No"});
+  EXPECT_EQ(boxes().back().text, "Random Playback is on the air. End it and start this?");
+  EXPECT_EQ(State(), AirState::kPlaying);
+  Click("PickListForm1", "Start", {"Yes"});
+  EXPECT_FALSE(IsOpen("RandomForm1"));
+  EXPECT_EQ(Find<MediaControl>("PickListForm1", "MMControl1").Mode(), ChannelMode::kPlaying);
 }
 
 TEST_F(RunControlsOnAir, QuitBeforeStart_LeavesTheCleanRecord) {
