@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QPainter>
 #include <QTest>
 
 #include "desktop/theme.h"
 #include "desktop/views/item_progress.h"
 #include "desktop/views/level_meters.h"
 #include "desktop/views/marked_lists.h"
+#include "desktop/views/meter_bar.h"
 #include "desktop/views/state_lamp.h"
 #include "desktop/views/stop_set_panel.h"
 #include "desktop/views/warning_banner.h"
@@ -70,7 +72,27 @@ TEST_F(Views, StateLamp_ShowsTheStateOfTheAirInAWord) {
     desktop::StateLamp lamp;
     lamp.Follow(screen);
     EXPECT_EQ(lamp.word().toStdString(), each.word);
+    station_.media().trouble = "NO SOUND OUTPUT - the sound card has gone.";
+    lamp.Follow(screen);
+    EXPECT_EQ(lamp.word().toStdString(), "NO SOUND");
+    EXPECT_EQ(lamp.second_line().toStdString(), each.state == AirState::kPlaying ? "" : each.word);
+    EXPECT_EQ(lamp.grab().toImage().pixelColor(lamp.width() / 2, 2), QColor(0xd0, 0x12, 0x12));
+    station_.media().trouble.clear();
     lamp.Leave();
+  }
+}
+
+TEST(MeterBars, AreGreyWhileNobodyHearsThem) {
+  desktop::MeterBar loud;
+  loud.Feed(1, 0.1);
+  for (const bool heard : {true, false}) {
+    QImage image(480, 10, QImage::Format_RGB32);
+    QPainter painter(&image);
+    desktop::PaintMeterBar(painter, image.rect(), loud, heard);
+    int most_colour = 0;
+    for (int x = 0; x < image.width(); ++x)
+      most_colour = std::max(most_colour, image.pixelColor(x, 5).saturation());
+    EXPECT_EQ(most_colour > 150, heard) << most_colour;
   }
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/views/air_view.h"
 
+#include "station/platform/media.h"
 #include "station/screen/screen.h"
 
 namespace quixair::desktop {
@@ -14,6 +15,7 @@ AirView::AirView(QWidget* parent, int looks_per_second) : QWidget(parent) {
 void AirView::Follow(Screen& screen) {
   followed_ = dynamic_cast<OnAirScreen*>(&screen);
   if (followed_ == nullptr) return;
+  media_ = &screen.platform().media;
   timer_.start();
   Look(*followed_);
 }
@@ -21,6 +23,11 @@ void AirView::Follow(Screen& screen) {
 void AirView::Leave() {
   timer_.stop();
   followed_ = nullptr;
+  media_ = nullptr;
+}
+
+bool AirView::heard() const {
+  return media_ == nullptr || media_->OutputTrouble().empty();
 }
 
 }  // namespace quixair::desktop

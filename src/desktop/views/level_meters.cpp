@@ -21,7 +21,8 @@ LevelMeters::LevelMeters(QWidget* parent) : AirView(parent, 30) {
 void LevelMeters::Look(OnAirScreen& screen) {
   const double seconds = static_cast<double>(since_look_.restart()) / 1000;
   const std::vector<MediaControl*> sounding = screen.sounding_channels();
-  bool moved = channels_.size() != sounding.size();
+  bool moved = channels_.size() != sounding.size() || heard() != heard_;
+  heard_ = heard();
   channels_.resize(sounding.size());
   for (std::size_t i = 0; i < sounding.size(); ++i) {
     const Levels peaks = sounding[i]->TakeLevels();
@@ -56,8 +57,9 @@ void LevelMeters::paintEvent(QPaintEvent*) {
     painter.setPen(kMeterScale);
     painter.drawText(QRectF(inside.left(), top, kNumberWidth, 2 * bar_height + 2),
                      Qt::AlignLeft | Qt::AlignVCenter, QString::number(i + 1));
-    PaintMeterBar(painter, {bars.left(), top, bars.width(), bar_height}, channels_[i][0]);
-    PaintMeterBar(painter, {bars.left(), top + bar_height + 2, bars.width(), bar_height}, channels_[i][1]);
+    PaintMeterBar(painter, {bars.left(), top, bars.width(), bar_height}, channels_[i][0], heard_);
+    PaintMeterBar(painter, {bars.left(), top + bar_height + 2, bars.width(), bar_height}, channels_[i][1],
+                  heard_);
   }
   PaintMeterScale(painter, {bars.left(), bars.bottom(), bars.width(), kMeterScaleHeight});
 }

@@ -1,7 +1,8 @@
 #pragma once
 
 // The level meters: a stereo pair of bars for each channel that can sound, from -48 dB to full scale, with a
-// falling bar, a peak that stays for a moment and a mark of what was cut off.
+// falling bar, a peak that stays for a moment and a mark of what was cut off. Grey while no output takes the
+// sound.
 
 #include <QElapsedTimer>
 #include <array>
@@ -25,6 +26,7 @@ class LevelMeters : public AirView {
  private:
   using Pair = std::array<MeterBar, 2>;
   std::vector<Pair> channels_{2};
+  bool heard_ = true;
   QElapsedTimer since_look_;
 };
 

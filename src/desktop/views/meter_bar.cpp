@@ -16,6 +16,7 @@ const QColor kTrack(0x24, 0x2c, 0x36);
 const QColor kCool(0x2f, 0xb3, 0x63);
 const QColor kWarmColor(0xe6, 0xc2, 0x29);
 const QColor kHotColor(0xe5, 0x3d, 0x32);
+const QColor kUnheard(0x5a, 0x64, 0x70);
 
 double Share(double decibels) {
   return std::clamp(1 - decibels / MeterBar::kFloor, 0.0, 1.0);
@@ -47,15 +48,16 @@ bool MeterBar::at_rest() const {
   return decibels_ <= kFloor && held_ <= kFloor;
 }
 
-void PaintMeterBar(QPainter& painter, const QRectF& bar, const MeterBar& meter) {
+void PaintMeterBar(QPainter& painter, const QRectF& bar, const MeterBar& meter, bool heard) {
   painter.fillRect(bar, kTrack);
-  PaintStretch(painter, bar, MeterBar::kFloor, kWarm, meter.decibels(), kCool);
-  PaintStretch(painter, bar, kWarm, kHot, meter.decibels(), kWarmColor);
-  PaintStretch(painter, bar, kHot, 0, meter.decibels(), kHotColor);
+  PaintStretch(painter, bar, MeterBar::kFloor, kWarm, meter.decibels(), heard ? kCool : kUnheard);
+  PaintStretch(painter, bar, kWarm, kHot, meter.decibels(), heard ? kWarmColor : kUnheard);
+  PaintStretch(painter, bar, kHot, 0, meter.decibels(), heard ? kHotColor : kUnheard);
   if (meter.held() <= MeterBar::kFloor) return;
   const double at = bar.left() + (bar.width() - 2) * Share(meter.held());
-  painter.fillRect(QRectF(at, bar.top(), 2, bar.height()),
-                   meter.held() > kHot ? kHotColor : QColor(Qt::white));
+  painter.fillRect(QRectF(at, bar.top(), 2, bar.height()), !heard                ? kUnheard
+                                                           : meter.held() > kHot ? kHotColor
+                                                                                 : QColor(Qt::white));
 }
 
 void PaintMeterScale(QPainter& painter, const QRectF& place) {

@@ -29,7 +29,8 @@ inline constexpr int kMeterScaleHeight = 12;
 inline const QColor kMeterBack(0x14, 0x19, 0x20);
 inline const QColor kMeterScale(0x8b, 0x99, 0xa9);
 
-void PaintMeterBar(QPainter& painter, const QRectF& bar, const MeterBar& meter);
+/// Grey when it is not `heard`.
+void PaintMeterBar(QPainter& painter, const QRectF& bar, const MeterBar& meter, bool heard = true);
 /// The numbers of the marks, below the bars.
 void PaintMeterScale(QPainter& painter, const QRectF& place);
 

@@ -14,6 +14,8 @@ struct Plate {
   QColor text;
 };
 
+const QColor kRed(0xd0, 0x12, 0x12);
+
 Plate PlateOf(AirState state, bool flash) {
   switch (state) {
     case AirState::kPlaying:
@@ -23,21 +25,15 @@ Plate PlateOf(AirState state, bool flash) {
     case AirState::kLive:
       return {QColor(0x1d, 0x6f, 0xd6), Qt::white};
     case AirState::kSilent:
-      return flash ? Plate{Qt::white, QColor(0xd0, 0x12, 0x12)} : Plate{QColor(0xd0, 0x12, 0x12), Qt::white};
+      return flash ? Plate{Qt::white, kRed} : Plate{kRed, Qt::white};
     case AirState::kReady:
       break;
   }
   return {QColor(0x52, 0x61, 0x72), Qt::white};
 }
 
-}  // namespace
-
-StateLamp::StateLamp(QWidget* parent) : AirView(parent, 10) {
-  since_start_.start();
-}
-
-QString StateLamp::word() const {
-  switch (state_) {
+QString WordOf(AirState state) {
+  switch (state) {
     case AirState::kPlaying:
       return QStringLiteral("ON AIR");
     case AirState::kPaused:
@@ -52,19 +48,35 @@ QString StateLamp::word() const {
   return QStringLiteral("READY");
 }
 
+}  // namespace
+
+StateLamp::StateLamp(QWidget* parent) : AirView(parent, 10) {
+  since_start_.start();
+}
+
+QString StateLamp::word() const {
+  return heard_ ? WordOf(state_) : QStringLiteral("NO SOUND");
+}
+
+QString StateLamp::second_line() const {
+  if (state_ == AirState::kPlaying) return stop_set_ ? QStringLiteral("STOP SET") : QString();
+  return heard_ ? QString() : WordOf(state_);
+}
+
 void StateLamp::Look(OnAirScreen& screen) {
   const OnAirStatus status = screen.on_air_status();
   const bool flash = status.state == AirState::kSilent && (since_start_.elapsed() / kFlashPeriod) % 2 == 1;
-  if (status.state == state_ && status.stop_set == stop_set_ && flash == flash_) return;
+  if (status.state == state_ && status.stop_set == stop_set_ && flash == flash_ && heard() == heard_) return;
   state_ = status.state;
   stop_set_ = status.stop_set;
   flash_ = flash;
+  heard_ = heard();
   setAccessibleName(word());
   update();
 }
 
 void StateLamp::paintEvent(QPaintEvent*) {
-  const Plate plate = PlateOf(state_, flash_);
+  const Plate plate = heard_ ? PlateOf(state_, flash_) : Plate{kRed, Qt::white};
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
@@ -73,13 +85,12 @@ void StateLamp::paintEvent(QPaintEvent*) {
   painter.setPen(plate.text);
   QFont bold = font();
   bold.setBold(true);
-  const bool second_line = stop_set_ && state_ == AirState::kPlaying;
   QRect place = rect().adjusted(10, 4, -10, -4);
-  if (second_line) {
+  if (const QString second = second_line(); !second.isEmpty()) {
     const QRect lower = place.adjusted(0, place.height() * 2 / 3, 0, 0);
     place.setBottom(lower.top());
-    painter.setFont(FittedFont(bold, QStringLiteral("STOP SET"), lower.size()));
-    painter.drawText(lower, Qt::AlignCenter, QStringLiteral("STOP SET"));
+    painter.setFont(FittedFont(bold, second, lower.size()));
+    painter.drawText(lower, Qt::AlignCenter, second);
   }
   painter.setFont(FittedFont(bold, word(), place.size()));
   painter.drawText(place, Qt::AlignCenter, word());

@@ -1,7 +1,7 @@
 #pragma once
 
 // The state of the air as one word on a coloured plate, to be told from across the room. An unwanted silence
-// flashes.
+// flashes. While no output takes the sound that is the word, whatever the state, and nothing is "ON AIR".
 
 #include <QElapsedTimer>
 
@@ -14,8 +14,9 @@ class StateLamp : public AirView {
   explicit StateLamp(QWidget* parent = nullptr);
   QSize sizeHint() const override { return {210, 56}; }
   QSize minimumSizeHint() const override { return {150, 44}; }
-  /// The word on the plate.
+  /// The word on the plate, and what stands below it in small, if anything.
   QString word() const;
+  QString second_line() const;
 
  protected:
   void Look(OnAirScreen& screen) override;
@@ -24,6 +25,7 @@ class StateLamp : public AirView {
  private:
   AirState state_ = AirState::kReady;
   bool stop_set_ = false;
+  bool heard_ = true;
   bool flash_ = false;
   QElapsedTimer since_start_;
 };
