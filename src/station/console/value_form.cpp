@@ -40,7 +40,7 @@ bool ReadForm::AtEnd() const {
 
 Result<std::string> ReadForm::Next() {
   if (AtEnd()) return RunTimeError::kInputPastEnd;
-  rest_.remove_prefix(std::min(rest_.find_first_not_of(" \t"), rest_.size()));
+  while (rest_.starts_with(' ') || rest_.starts_with('\t')) rest_.remove_prefix(1);
   std::string value;
   if (!rest_.empty() && rest_.front() == '"') {
     rest_.remove_prefix(1);

@@ -1,6 +1,7 @@
 #include "station/library/recording.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "station/console/station_paths.h"
 #include "station/console/value_form.h"
@@ -13,7 +14,7 @@ constexpr std::size_t kFirstLabelLine = 3;  // counted from 0
 constexpr std::size_t kSecondLabelLine = 4;
 constexpr std::size_t kDataExtension = 4;
 
-Field FieldIn(const RecordingLine& line, std::optional<RecordingKind> kind) {
+constexpr Field FieldIn(const RecordingLine& line, std::optional<RecordingKind> kind) {
   if (kind == RecordingKind::kSpot) return line.spot;
   if (kind == RecordingKind::kMusic) return line.music;
   if (kind == RecordingKind::kLiner) return line.liner;
@@ -22,9 +23,9 @@ Field FieldIn(const RecordingLine& line, std::optional<RecordingKind> kind) {
 
 std::size_t LineCount(std::optional<RecordingKind> kind) {
   if (!kind) return kSecondLabelLine + 1;
-  return static_cast<std::size_t>(
-      std::count_if(kRecordingLines.begin(), kRecordingLines.end(),
-                    [kind](const RecordingLine& line) { return FieldIn(line, kind) != Field::kNone; }));
+  std::size_t count = kRecordingLines.size();
+  while (FieldIn(kRecordingLines[count - 1], kind) == Field::kNone) --count;
+  return count;
 }
 
 std::string_view WithoutEmptyEnd(std::string_view lines) {
@@ -79,6 +80,11 @@ const std::string& Recording::value(Field field) const {
   return line < values_.size() ? values_[line] : kNothing;
 }
 
+std::string Recording::Take(Field field) {
+  const std::size_t line = LineOf(field);
+  return line < values_.size() ? std::exchange(values_[line], {}) : std::string();
+}
+
 void Recording::Set(Field field, std::string_view value) {
   const std::size_t line = LineOf(field);
   if (line < values_.size()) values_[line] = value;
@@ -102,8 +108,9 @@ Status Recording::Parse(std::string_view content) {
   ReadForm form(content);
   lines_read_ = 0;
   for (std::string& value : values_) {
-    if (!form.AtEnd()) ++lines_read_;
-    value = form.Next().value_or({});
+    Result<std::string> line = form.Next();
+    if (line.ok()) ++lines_read_;
+    value = std::move(line).value_or({});
   }
   further_lines_ = form.AtEnd() ? std::string_view() : WithoutEmptyEnd(form.rest());
   return kind_ && lines_read_ == values_.size() ? RunTimeError::kNone : RunTimeError::kInputPastEnd;

@@ -88,6 +88,8 @@ class Recording {
   std::optional<RecordingKind> kind() const { return kind_; }
   /// Empty when the line is missing, or the kind has no such field.
   const std::string& value(Field field) const;
+  /// The value moved out, for readers of a whole library.
+  std::string Take(Field field);
   /// A field that the kind has not is passed over.
   void Set(Field field, std::string_view value);
 

@@ -13,20 +13,21 @@ int FurtherMatches(Files& files, std::string_view pattern) {
   return static_cast<int>(std::max<std::size_t>(matches, 1) - 1);
 }
 
-Recording ReadSkipping(Files& files, Recording recording) {
+Recording ReadSkipping(Files& files, std::string_view id, RecordingKind kind) {
+  Recording recording(id, kind);
   SkipAndGoOn(recording.Read(files));
   return recording;
 }
 
-/// What all kinds tell.
-PoolRow RowOf(const Recording& recording) {
-  // A torn file does not tell its id; its name does.
-  const std::string& told = recording.value(Field::kRecordingId);
-  return {.RecordingId = told.empty() ? recording.id() : told,
-          .Drive = recording.value(Field::kDrive),
+/// What all kinds tell. A torn file does not tell its id; its name does.
+PoolRow TakeRow(Recording& recording) {
+  std::string id = recording.Take(Field::kRecordingId);
+  if (id.empty()) id = recording.id();
+  return {.RecordingId = std::move(id),
+          .Drive = recording.Take(Field::kDrive),
           .first_text = {},
-          .Title = recording.value(Field::kTitle),
-          .Length = recording.value(Field::kLength),
+          .Title = recording.Take(Field::kTitle),
+          .Length = recording.Take(Field::kLength),
           .Product = {}};
 }
 
@@ -43,29 +44,30 @@ int GetFilelegalcount(Files& files) {
 }
 
 PoolRow ReadSong(Files& files, std::string_view id) {
-  const Recording song = ReadSkipping(files, Recording(id, RecordingKind::kMusic));
-  PoolRow row = RowOf(song);
-  row.first_text = song.value(Field::kArtist);
+  Recording song = ReadSkipping(files, id, RecordingKind::kMusic);
+  PoolRow row = TakeRow(song);
+  row.first_text = song.Take(Field::kArtist);
   return row;
 }
 
 PoolRow ReadLiner(Files& files, std::string_view id) {
-  return RowOf(ReadSkipping(files, Recording(id, RecordingKind::kLiner)));
+  Recording liner = ReadSkipping(files, id, RecordingKind::kLiner);
+  return TakeRow(liner);
 }
 
 PoolRow ReadLegalId(Files& files, std::string_view id) {
-  const Recording liner = ReadSkipping(files, Recording(id, RecordingKind::kLiner));
-  PoolRow row = RowOf(liner);
-  row.first_text = liner.value(Field::kAnnouncer);
+  Recording liner = ReadSkipping(files, id, RecordingKind::kLiner);
+  PoolRow row = TakeRow(liner);
+  row.first_text = liner.Take(Field::kAnnouncer);
   return row;
 }
 
 PoolRow ReadRotationSpot(Files& files, std::string_view id) {
-  const Recording spot = ReadSkipping(files, Recording(id, RecordingKind::kSpot));
-  PoolRow row = RowOf(spot);
+  Recording spot = ReadSkipping(files, id, RecordingKind::kSpot);
+  PoolRow row = TakeRow(spot);
   row.RecordingId = id;
-  row.first_text = spot.value(Field::kAccount);
-  row.Product = spot.value(Field::kProduct);
+  row.first_text = spot.Take(Field::kAccount);
+  row.Product = spot.Take(Field::kProduct);
   return row;
 }
 
