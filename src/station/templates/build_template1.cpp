@@ -58,11 +58,17 @@ void BuildTemplate1::Load() {
   StartLoading();
 }
 
+Control& BuildTemplate1::RestingPlace() {
+  if (editor_->assists() && Text8.visible()) return Text8;
+  return EventListScreen::RestingPlace();
+}
+
 void BuildTemplate1::CloseWindow() {
   editor_->Quit();
 }
 
 bool BuildTemplate1::LibraryIsLargeEnough() {
+  bool enough = true;
   for (const Library& library : libraries()) {
     if (library.files.count() >= kFewest) continue;
     const KindInWords words = InWords(library.files.kind());
@@ -70,9 +76,9 @@ bool BuildTemplate1::LibraryIsLargeEnough() {
                                      " files before\nusing this module. Please make at least two\n" +
                                      words.recordings + " recordings and then try again...",
                                  box_style::kExclamation, words.title);
-    return false;
+    enough = false;
   }
-  return true;
+  return enough;
 }
 
 void BuildTemplate1::SetUpMode() {

@@ -19,6 +19,7 @@ class BuildTemplate1 : public EventListScreen {
   explicit BuildTemplate1(const Platform& platform);
   ~BuildTemplate1() override;
   void Load() override;
+  void PrepareAgain(const ScreenOpening&) override { SetRestingFocus(); }
   void CloseWindow() override;
 
   // operations
@@ -53,11 +54,13 @@ class BuildTemplate1 : public EventListScreen {
   Button Command8{Frame1, "Command8", "&Hide"};
 
  protected:
+  /// On-Air Assist is worked from the manual box.
+  Control& RestingPlace() override;
   Step LoadMore() override;
   void Loaded() override;
 
  private:
-  /// False when a kind has too few recordings to begin with, which has been told.
+  /// False when a kind has too few recordings to begin with; each such kind has been told.
   bool LibraryIsLargeEnough();
   void SetUpMode();
 

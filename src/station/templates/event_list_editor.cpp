@@ -13,7 +13,7 @@ constexpr int kRowsAboveCut = 5;
 EventListEditor::EventListEditor(EventListScreen& screen) : screen_(screen) {
   for (EventListScreen::Library& library : screen.libraries()) {
     library.list.on_click = [this] {
-      screen_.Text3.SetText("Double Click or Press Enter to add a selection to the list above...");
+      Say("Double Click or Press Enter to add a selection to the list above...");
     };
     library.list.on_double_click = [this, &library] {
       AddFromList(library.files, library.list.selected_index());
@@ -30,6 +30,7 @@ EventListEditor::EventListEditor(EventListScreen& screen) : screen_(screen) {
 }
 
 void EventListEditor::Prompt(const std::string& text) {
+  prompt_ = text;
   screen_.Text3.SetBackColor(kYellow);
   screen_.Text3.SetText(text);
 }
@@ -37,6 +38,11 @@ void EventListEditor::Prompt(const std::string& text) {
 void EventListEditor::EndPrompt() {
   screen_.Text3.SetBackColor(std::nullopt);
   screen_.Text3.SetText(screen_.kind().banner);
+}
+
+void EventListEditor::Say(const std::string& text) {
+  if (!Waits()) screen_.Text3.SetBackColor(std::nullopt);
+  screen_.Text3.SetText(text);
 }
 
 void EventListEditor::Warn(const std::string& title, const std::string& text) {
@@ -69,12 +75,12 @@ void EventListEditor::AddEntry(std::string entry, double seconds) {
     screen_.List2.AddRow(entries_.Row(entries_.EntryCount()));
   }
   screen_.List2.SetTopRow(entries_.EntryCount() - 1);
-  screen_.Text3.SetText("Total Entries = " + std::to_string(entries_.EntryCount()));
+  Say("Total Entries = " + std::to_string(entries_.EntryCount()));
 }
 
 void EventListEditor::AddFromList(const EditorList& library, int row) {
   if (row < 0) {
-    screen_.Text3.SetText("You Pressed <Enter> to Add an Entry, but Haven't Selected an Entry Yet !");
+    Say("You Pressed <Enter> to Add an Entry, but Haven't Selected an Entry Yet !");
     return;
   }
   TakeRecording(library.recordings().at(static_cast<std::size_t>(row)));
@@ -101,10 +107,11 @@ void EventListEditor::ShowManual(bool show) {
   screen_.Command6.Show(!show);
   screen_.Command15.Show(show);
   if (!show) {
-    EndPrompt();
-    return;
+    screen_.Command6.Enable();  // what was hidden can be shown again, in each mode
+    if (Waits()) return Prompt(prompt_);
+    return EndPrompt();
   }
-  screen_.Text3.SetText("Enter a Valid Spot, Music, or Liner I.D. in the Manual Box - Then Press Enter...");
+  Say("Enter a Valid Spot, Music, or Liner I.D. in the Manual Box - Then Press Enter...");
   screen_.Text8.SetFocus();
 }
 
@@ -139,15 +146,23 @@ void EventListEditor::EntryDoubleClicked() {
   if (row >= 0 && CutArmed == 1) CutRow(row);  // without a row it stays armed
 }
 
+void EventListEditor::TellStep(const std::string& text) {
+  screen_.Text2.SetText(text);
+  screen_.Repaint();
+}
+
 void EventListEditor::CutRow(int row) {
+  const bool last = row + 1 == entries_.EntryCount();
   const double seconds = entries_.Cut(row + 1);
+  screen_.Text3.SetText(ShortestSeconds(std::lround(seconds * 1000)) + " Seconds cut");
   ShowTotals();
+  if (!last) TellStep("Reindexing... WAIT...");
   ShowRows();
+  if (!last) TellStep("Rebuilding... WAIT...");
   if (row > kRowsAboveCut) screen_.List2.SetTopRow(row - kRowsAboveCut);
   CutArmed = 0;
   screen_.List1.Enable();
   EndPrompt();
-  screen_.Text3.SetText(ShortestSeconds(std::lround(seconds * 1000)) + " Seconds cut");
   screen_.Text2.SetText("Item " + std::to_string(row + 1) + " was successfully removed...");
 }
 
@@ -158,7 +173,7 @@ void EventListEditor::ClearEntries() {
   screen_.List1.Enable();
   screen_.List2.Clear();
   EndPrompt();
-  screen_.shown_library().SetFocus();
+  screen_.SetRestingFocus();
 }
 
 }  // namespace quixair

@@ -34,8 +34,12 @@ class EventListEditor {
   void ClearEntries();
   void ShowRows();
   void ShowTotals();
+  /// What is waited for, in yellow, until EndPrompt; Say shows something else meanwhile or afterwards.
   void Prompt(const std::string& text);
   void EndPrompt();
+  void Say(const std::string& text);
+  /// An act of the operator was asked for and has not come.
+  virtual bool Waits() const { return CutArmed == 1; }
   void Warn(const std::string& title, const std::string& text);
 
   TemplateEntries entries_;
@@ -45,9 +49,11 @@ class EventListEditor {
   void TakeRecording(const EditorRecording& recording);
   void AddManual();
   void CutRow(int row);
+  void TellStep(const std::string& text);
   bool TellLimit();
 
   EventListScreen& screen_;
+  std::string prompt_;
 };
 
 }  // namespace quixair

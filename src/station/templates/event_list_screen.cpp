@@ -51,7 +51,7 @@ void EventListScreen::ShowLibrary(ListBox& list) {
     ColumnsLabel.SetCaption(LibraryHeading(library.files.kind(), library.files.columns()));
     Text3.SetText(std::to_string(library.files.count()) + library.what);
   }
-  list.SetFocus();
+  SetRestingFocus();
 }
 
 void EventListScreen::ListLibrary() {
@@ -113,7 +113,7 @@ void EventListScreen::HoldControls() {
 
 void EventListScreen::FreeControls() {
   for (Control* control : std::exchange(held_, {})) control->Enable();
-  shown_library().SetFocus();
+  SetRestingFocus();
 }
 
 }  // namespace quixair

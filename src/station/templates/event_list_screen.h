@@ -77,8 +77,11 @@ class EventListScreen : public Screen {
   std::array<Library, 3>& libraries() { return libraries_; }
   /// The library list that is showing.
   ListBox& shown_library();
+  /// Where the operator goes on when a step is done.
+  void SetRestingFocus() { RestingPlace().SetFocus(); }
 
  protected:
+  virtual Control& RestingPlace() { return shown_library(); }
   void ShowLibrary(ListBox& list);
   /// Finds out what is there, without reading it.
   void ListLibrary();

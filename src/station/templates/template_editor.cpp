@@ -13,6 +13,7 @@ namespace quixair {
 namespace {
 
 constexpr int kRowsAboveOpen = 6;
+constexpr const char* kChoosePlace = "Double Click Point in Template Entries List at which to Insert";
 
 std::string FourDigits(int number) {
   std::array<char, 16> text{};
@@ -41,7 +42,8 @@ void TemplateEditor::ConnectLocalBreak() {
   screen_.Command16.on_click = [this] { AcceptLocalBreak(); };
   screen_.Command17.on_click = [this] {
     screen_.Frame2.Hide();
-    screen_.shown_library().SetFocus();
+    if (!Waits()) EndPrompt();
+    screen_.SetRestingFocus();
   };
   screen_.List7.on_click = [this] { ComposeTime(); };
   screen_.List8.on_click = [this] { ComposeTime(); };
@@ -58,7 +60,7 @@ void TemplateEditor::ConnectRange() {
   screen_.Command8.on_click = [this] {
     screen_.Frame1.Hide();
     screen_.Command13.Enable();
-    screen_.shown_library().SetFocus();
+    screen_.SetRestingFocus();
   };
   screen_.Command14.on_click = [this] { ShowRange(true); };
   for (ListBox* list : {&screen_.List5, &screen_.List6}) {
@@ -69,6 +71,7 @@ void TemplateEditor::ConnectRange() {
 }
 
 void TemplateEditor::FillOpen(std::string entry, double seconds, const std::string& said) {
+  if (!entries_.HasPlace()) return Prompt(kChoosePlace);
   entries_.Fill(std::move(entry));
   entries_.AddSeconds(seconds);
   ShowRows();
@@ -87,6 +90,7 @@ std::string TemplateEditor::OpenFilled() const {
 void TemplateEditor::AddFromList(const EditorList& library, int row) {
   Changed = 1;  // by the lists alone, and before anything is looked at
   EventListEditor::AddFromList(library, row);
+  screen_.SetRestingFocus();
 }
 
 void TemplateEditor::Take(std::string entry, double seconds) {
@@ -103,7 +107,7 @@ void TemplateEditor::AddCode(std::string_view code, const std::string& said_when
     return;
   }
   AddEntry(std::string(code), 0);
-  screen_.shown_library().SetFocus();
+  screen_.SetRestingFocus();
 }
 
 /// The lists are not emptied first: each press of the button adds all the rows again, as it always has.
@@ -136,9 +140,8 @@ void TemplateEditor::AcceptLocalBreak() {
     return;
   }
   AddEntry(LocalBreakEntry(time), 0);
-  screen_.Text3.SetBackColor(std::nullopt);
-  screen_.Text3.SetText("Local Break Added at Position " + std::to_string(entries_.EntryCount()) + ": " +
-                        time + " ****LOCAL BREAK***");
+  Say("Local Break Added at Position " + std::to_string(entries_.EntryCount()) + ": " + time +
+      " ****LOCAL BREAK***");
   screen_.Text2.SetText("Your selection has been added...");
 }
 
@@ -153,7 +156,7 @@ void TemplateEditor::Insert() {
     Inserting = 1;
     CutArmed = 0;
     screen_.List1.Disable();
-    Prompt("Double Click Point in Template Entries List at which to Insert");
+    Prompt(kChoosePlace);
     screen_.List2.SetFocus();
   }
 }
@@ -208,9 +211,9 @@ void TemplateEditor::Clear() {
 void TemplateEditor::ShowRange(bool from_list_asked) {
   ListBox& from = screen_.List5;
   ListBox& to = screen_.List6;
-  screen_.Text3.SetText("Range Calculator:   Click or Press <Enter> to Choose an Event");
+  Say("Range Calculator:   Click or Press <Enter> to Choose an Event");
   if (to.selected_index() < 0) {
-    screen_.Text3.SetText("Range Calculator:   Now, select an ending event Number from the 'To' Box");
+    Say("Range Calculator:   Now, select an ending event Number from the 'To' Box");
     return;
   }
   if (from.selected_index() < 0) return;
@@ -221,6 +224,7 @@ void TemplateEditor::ShowRange(bool from_list_asked) {
   const bool in_order = from.selected_text() <= to.selected_text();
   const int first = WholeValue(in_order ? from.selected_text() : to.selected_text());
   const int last = WholeValue(in_order ? to.selected_text() : from.selected_text());
+  if (first > last) return;  // no event is walked, and the figures stay
   const std::string minutes = FixedDecimals(entries_.RangeSeconds(first, last) / 60, 1);
   screen_.Text5.SetText(FixedDecimals(entries_.RangeSeconds(first, last), 1) + "  Seconds");
   screen_.Text6.SetText(minutes + "  Minutes");

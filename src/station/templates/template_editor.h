@@ -19,12 +19,13 @@ class TemplateEditor : public EventListEditor {
   /// 0 edits a Pick-List template, 1 Immediate, 2 Simple-Sat, 3 the rotation file, 4 On-Air Assist; 1 and 4 play.
   void SetMode(int pik_mode);
   bool plays() const { return PlayMode == 1; }
+  bool assists() const { return assists_; }
   /// Reads the template in use, the first time. False when the operator would rather not go on.
   bool OpenTemplate();
   /// Makes an entry of its next event; false when there is none left, and the entries are shown.
   bool LoadEvent();
   /// Loading has come to its end: from now on quitting asks.
-  void SetLoaded();
+  void SetLoaded() { loaded_ = true; }
 
   void Quit() override;
 
@@ -38,6 +39,8 @@ class TemplateEditor : public EventListEditor {
   void Take(std::string entry, double seconds) override;
   void Cut() override;
   void EntryDoubleClicked() override;
+  bool Waits() const override { return Inserting == 1 || EventListEditor::Waits(); }
+  /// Nothing is taken before the place is known, but that of the insertion before stands for one.
   void FillOpen(std::string entry, double seconds, const std::string& said);
   std::string OpenFilled() const;
   void AddCode(std::string_view code, const std::string& said_when_filling);
@@ -69,6 +72,7 @@ class TemplateEditor : public EventListEditor {
   int Changed = 0;
   int QuitAfterSave = 0;
   int PlayMode = 0;
+  bool assists_ = false;
   bool loaded_ = false;
 };
 

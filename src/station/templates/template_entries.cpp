@@ -1,6 +1,7 @@
 #include "station/templates/template_entries.h"
 
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 
@@ -18,6 +19,8 @@ constexpr std::size_t kLengthRead = 6;
 constexpr std::size_t kFileIdWidth = 8;
 constexpr std::size_t kTitleColumn = 30;
 constexpr std::size_t kTitleWidth = 18;
+constexpr int kSignificantDigits = 7;
+constexpr std::size_t kMinutesWidth = 5;
 
 std::string Padded(std::string_view text, std::size_t width) {
   std::string padded(text.substr(0, width));
@@ -29,13 +32,16 @@ std::string_view Columns(std::string_view text, std::size_t from, std::size_t co
   return from < text.size() ? text.substr(from, count) : std::string_view();
 }
 
-/// A number's text as the old arithmetic wrote it: seven digits, no zero before the point.
+/// A number's text as the old arithmetic wrote it: seven digits, no zero before the point; with a place for the
+/// sign in front.
 std::string PlainNumber(double value) {
   std::array<char, 32> buffer{};
-  const int length = std::snprintf(buffer.data(), buffer.size(), "%.7g", value);
-  std::string text(buffer.data(), static_cast<std::size_t>(length));
+  char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value),
+                                  std::chars_format::general, kSignificantDigits)
+                        .ptr;
+  std::string text(buffer.data(), end);
   if (text.starts_with("0.")) text.erase(0, 1);
-  return text;
+  return (value < 0 ? '-' : ' ') + text;
 }
 
 }  // namespace
@@ -84,7 +90,7 @@ void TemplateEntries::Open(int number) {
 
 void TemplateEntries::Fill(std::string entry) {
   open_ = false;
-  if (open_position_ < 1 || open_position_ > EntryCount()) return;
+  if (!HasPlace()) return;
   entries_[static_cast<std::size_t>(open_position_ - 1)] = std::move(entry);
 }
 
@@ -139,10 +145,10 @@ std::vector<std::string> TemplateEntries::Ids() const {
 }
 
 std::string TotalTimeText(double seconds) {
-  // With a place for the sign in front, of which five characters are taken.
-  const std::string minutes = (seconds < 0 ? "" : " ") + PlainNumber(seconds / 60);
-  return "Total Time: " + FixedDecimals(seconds, 1) + " sec. (" + std::string(Trimmed(minutes.substr(0, 5))) +
-         " min.)";
+  const double told =
+      static_cast<double>(std::lround(seconds * 1000)) / 1000;  // without what cuts leave over
+  const std::string minutes = PlainNumber(told / 60).substr(0, kMinutesWidth);
+  return "Total Time: " + FixedDecimals(told, 1) + " sec. (" + std::string(Trimmed(minutes)) + " min.)";
 }
 
 }  // namespace quixair

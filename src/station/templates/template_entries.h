@@ -45,7 +45,9 @@ class TemplateEntries {
   void RemoveLast() { entries_.pop_back(); }
   /// Makes room for an event in front of event `number`.
   void Open(int number);
-  /// Puts an event into the place that was opened last, open or filled by now.
+  /// Whether there is a place that was opened last, open or filled by now.
+  bool HasPlace() const { return open_position_ >= 1 && open_position_ <= EntryCount(); }
+  /// Puts an event into that place.
   void Fill(std::string entry);
   /// Takes an event out and gives the seconds that went with it.
   double Cut(int number);

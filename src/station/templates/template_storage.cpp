@@ -24,13 +24,14 @@ void TemplateEditor::SetMode(int pik_mode) {
   constexpr int kSimpleSat = 2;
   constexpr int kRotation = 3;
   constexpr int kAssist = 4;
+  assists_ = pik_mode == kAssist;
   PlayMode = pik_mode == kImmediate || pik_mode == kAssist ? 1 : 0;
   screen_.Command1.SetCaption(PlayMode == 1 ? "&Play" : "&Save");
   screen_.localbreak.Enable(pik_mode == kSimpleSat);
   screen_.Command4.Enable(pik_mode != kSimpleSat && pik_mode != kRotation);
-  screen_.Command6.Enable(pik_mode != kAssist);
+  screen_.Command6.Enable(!assists_);
   if (pik_mode == kImmediate) screen_.Label2.SetCaption("IMMEDIATE Playback");
-  if (pik_mode == kAssist) {
+  if (assists_) {
     screen_.SetTitle("On-Air Assist");
     screen_.Label2.SetCaption("ON-AIR ASSIST");
     ShowManual(true);
@@ -80,11 +81,6 @@ bool TemplateEditor::LoadEvent() {
   screen_.List2.SetTopRow(entries_.EntryCount() - 1);
   ShowTotals();
   return false;
-}
-
-void TemplateEditor::SetLoaded() {
-  loaded_ = true;
-  if (screen_.Text8.visible()) screen_.Text8.SetFocus();
 }
 
 void TemplateEditor::AddTemplateEvent(const TemplateEvent& event) {

@@ -46,6 +46,11 @@ class TemplateEditorScreen : public StationFixture {
     for (const std::string& row : Rows(kEditor, "List2")) ids += row.substr(6, row.find(' ', 6) - 6) + ' ';
     return ids;
   }
+  /// What is waited for, in yellow.
+  std::string Prompt() {
+    const bool yellow = Find<TextBox>(kEditor, "Text3").back_color() == kYellow;
+    return yellow ? Shown(kEditor, "Text3") : "";
+  }
   bool Enabled(const char* button) { return Find<Button>(kEditor, button).enabled(); }
 };
 
@@ -93,16 +98,18 @@ TEST_F(TemplateEditorScreen, LibraryLists_ShowTheirColumnsAndCounts) {
   EXPECT_TRUE(Enabled("Command10"));
 }
 
-TEST_F(TemplateEditorScreen, SmallLibrary_ClosesTheScreen) {
-  std::filesystem::remove(Host("QXDATA/S2.DAT"));
-  std::filesystem::remove(Host("QXDATA/S3.DAT"));
-  QueueAnswer("OK");
+TEST_F(TemplateEditorScreen, SmallLibrary_TellsEachKindAndClosesTheScreen) {
+  for (const char* id : {"S2", "S3", "M0002", "M0003", "M0004", "L0001", "L0002", "LL001", "LL002"})
+    std::filesystem::remove(Host("QXDATA/" + std::string(id) + ".DAT"));
+  for (int i = 0; i < 3; ++i) QueueAnswer("OK");
   OpenEditor("1");
-  EXPECT_EQ(boxes().back().title, "Not Enough Spots!");
-  EXPECT_EQ(
-      boxes().back().text,
-      "You must record at least two spot files before\nusing this module. Please make at least two\nspot "
-      "recordings and then try again...");
+  ASSERT_EQ(boxes().size(), 3U);
+  EXPECT_EQ(boxes()[0].title, "Not Enough Music!");
+  EXPECT_EQ(boxes()[1].title, "Not Enough Spots!");
+  EXPECT_EQ(boxes()[1].text,
+            "You must record at least two spot files before\nusing this module. Please make at least two\n"
+            "spot recordings and then try again...");
+  EXPECT_EQ(boxes()[2].title, "Not Enough Liners!");
   EXPECT_FALSE(IsOpen(kEditor));
 }
 
@@ -164,7 +171,7 @@ TEST_F(TemplateEditorScreen, Insertion_OpensAPlaceAndHoldsEverythingElseOff) {
   OpenWith({"M0001", "M0002", "M0003"});
   Click(kEditor, "Command2");
   EXPECT_FALSE(Find<ListBox>(kEditor, "List1").enabled());
-  EXPECT_EQ(Find<TextBox>(kEditor, "Text3").back_color(), kYellow);
+  EXPECT_EQ(Prompt(), "Double Click Point in Template Entries List at which to Insert");
   DoubleClickEntry(1);
   EXPECT_EQ(Entry(1), "0002    >> O P E N <<");
   EXPECT_EQ(Entry(2).substr(0, 11), "0003  M0002");
@@ -181,11 +188,42 @@ TEST_F(TemplateEditorScreen, Insertion_OpensAPlaceAndHoldsEverythingElseOff) {
   Add("List3", "S1");
   EXPECT_EQ(Ids(), "M0001 S1 M0002 M0003 ");
   EXPECT_EQ(Shown(kEditor, "Text2"), "The >>OPEN<< at 2 has been filled...");
-  EXPECT_EQ(Find<TextBox>(kEditor, "Text3").back_color(), std::nullopt);
+  EXPECT_EQ(Prompt(), "");
   Click(kEditor, "Command2");
   DoubleClickEntry(0);
   Click(kEditor, "Command5");
   EXPECT_EQ(Ids(), ">TIME< M0001 S1 M0002 M0003 ");
+}
+
+TEST_F(TemplateEditorScreen, EventChosenBeforeItsPlace_WaitsForThePlace) {
+  OpenWith({"M0001", "M0002"}, "2");
+  Click(kEditor, "Command6");
+  Click(kEditor, "Command2");
+  const std::function<void()> ways[] = {[this] { Add("List3", "S1"); },
+                                        [this] { Click(kEditor, "Command5"); },
+                                        [this] {
+                                          Find<TextBox>(kEditor, "Text8").Edit("S1");
+                                          Find<TextBox>(kEditor, "Text8").PressEnter();
+                                        },
+                                        [this] {
+                                          Click(kEditor, "localbreak");
+                                          Select(kEditor, "List7", 5);
+                                          Select(kEditor, "List8", 30);
+                                          Find<OptionButton>(kEditor, "Option2").PersonSelects();
+                                          Click(kEditor, "Command16");
+                                        }};
+  for (const auto& choose : ways) {
+    choose();
+    EXPECT_EQ(Ids(), "M0001 M0002 ");
+    EXPECT_EQ(Shown(kEditor, "Text1"), "Total Time: 61.0 sec. (1.01 min.)");
+    EXPECT_EQ(Shown(kEditor, "Text3"), "Double Click Point in Template Entries List at which to Insert");
+  }
+  DoubleClickEntry(1);
+  Add("List3", "S1");
+  EXPECT_EQ(Ids(), "M0001 S1 M0002 ");
+  Click(kEditor, "Command2");
+  Add("List3", "S2");
+  EXPECT_EQ(Ids(), "M0001 S2 M0002 ") << "the place of the insertion before is taken";
 }
 
 TEST_F(TemplateEditorScreen, InsertionIntoTooFewEntries_IsRefused) {
@@ -201,7 +239,7 @@ TEST_F(TemplateEditorScreen, Cut_RemovesTheRowChosenAndAsksNothingOnQuit) {
   EXPECT_EQ(Rows(kEditor, "List2").size(), 3U) << "nothing selected: still armed";
   DoubleClickEntry(1);
   EXPECT_EQ(Ids(), "M0001 M0002 ");
-  EXPECT_EQ(Shown(kEditor, "Text3"), "20 Seconds cut");
+  EXPECT_EQ(Shown(kEditor, "Text3"), "Quixair Template Editor");
   EXPECT_EQ(Shown(kEditor, "Text2"), "Item 2 was successfully removed...");
   EXPECT_EQ(Shown(kEditor, "Text1"), "Total Time: 61.0 sec. (1.01 min.)");
   DoubleClickEntry(0);
@@ -229,6 +267,10 @@ TEST_F(TemplateEditorScreen, LocalBreaks_AreComposedAndKeepTheirTwoForms) {
   Click(kEditor, "localbreak");
   Click(kEditor, "Command16");
   EXPECT_EQ(Shown(kEditor, "Text3"), "Select an Hour, Minute, and AM or PM - Then <ACCEPT>.");
+  Click(kEditor, "Command17");
+  Click(kEditor, "Command5");
+  EXPECT_EQ(Prompt(), "") << "nothing waits any more";
+  Click(kEditor, "localbreak");
   Select(kEditor, "List7", 5);
   Select(kEditor, "List8", 30);
   Click(kEditor, "Command16");
@@ -236,14 +278,17 @@ TEST_F(TemplateEditorScreen, LocalBreaks_AreComposedAndKeepTheirTwoForms) {
   Find<OptionButton>(kEditor, "Option2").PersonSelects();
   EXPECT_EQ(Shown(kEditor, "Text9"), "06:30 PM");
   Click(kEditor, "Command16");
-  EXPECT_EQ(Shown(kEditor, "Text3"), "Local Break Added at Position 3: 06:30 PM ****LOCAL BREAK***");
+  EXPECT_EQ(Shown(kEditor, "Text3"), "Local Break Added at Position 4: 06:30 PM ****LOCAL BREAK***");
   Click(kEditor, "Command2");
   DoubleClickEntry(0);
+  Click(kEditor, "Command6");
+  Click(kEditor, "Command15");
+  EXPECT_EQ(Prompt(), "Now, Select an entry for Position 1") << "still waits";
   Click(kEditor, "Command16");
   Save();
   EXPECT_EQ(FileText("QXTEMPLT/A.TPP"),
             "\"06:30 PM\",\"  ****LOCAL BREAK*\"\r\n\"S1\",\"Spot S1\"\r\n\"S2\",\"Spot S2\"\r\n"
-            "\"06:30 PM\",\"****LOCAL BREAK***\"\r\n\"\",\"\"\r\n");
+            "\">TIME<\",\"\"\r\n\"06:30 PM\",\"****LOCAL BREAK***\"\r\n\"\",\"\"\r\n");
 }
 
 TEST_F(TemplateEditorScreen, ManualEntry_TakesTheIdOfTheDataFile) {
@@ -269,6 +314,7 @@ TEST_F(TemplateEditorScreen, ManualEntry_TakesTheIdOfTheDataFile) {
 
 TEST_F(TemplateEditorScreen, RangeTotal_ComparesNumbersAsTexts) {
   OpenWith({"S1", "S2", "M0001", "S3"});
+  Advance(1s);
   Click(kEditor, "Command13");
   Select(kEditor, "List5", 2);
   EXPECT_EQ(Shown(kEditor, "Text3"),
@@ -279,6 +325,12 @@ TEST_F(TemplateEditorScreen, RangeTotal_ComparesNumbersAsTexts) {
   Select(kEditor, "List6", 1000);
   EXPECT_EQ(Find<ListBox>(kEditor, "List6").selected_text(), "04") << "no further than there are events";
   EXPECT_EQ(Shown(kEditor, "Text5"), "50.5  Seconds");
+  for (int i = 0; i < 98; ++i) Click(kEditor, "Command5");
+  Select(kEditor, "List5", 98);
+  Select(kEditor, "List6", 99);
+  EXPECT_EQ(Shown(kEditor, "Text5"), "20.0  Seconds");
+  Select(kEditor, "List6", 99);
+  EXPECT_EQ(Shown(kEditor, "Text5"), "20.0  Seconds") << "from 100 to 99: no event, so nothing is said";
 }
 
 TEST_F(TemplateEditorScreen, Clear_AsksTwiceAndKeepsTheTotal) {
@@ -346,6 +398,24 @@ TEST_F(TemplateEditorScreen, ImmediateAndAssist_GoToTheAirAndBack) {
     EXPECT_EQ(IsOpen(kEditor), std::string_view(mode) == "4");
     station_.PowerCut();
   }
+}
+
+TEST_F(TemplateEditorScreen, OnAirAssist_GoesBackToTheManualBox) {
+  OpenEditor("4");
+  const auto focused = [this] { return station_.FindScreen(kEditor)->focused()->name(); };
+  EXPECT_EQ(focused(), "Text8");
+  Click(kEditor, "Command11");
+  EXPECT_EQ(focused(), "Text8");
+  Find<ListBox>(kEditor, "List1").SetFocus();
+  Add("List1", "M0001");
+  EXPECT_EQ(focused(), "Text8");
+  Find<ListBox>(kEditor, "List1").SetFocus();
+  Menu("OnAirAssist");
+  EXPECT_EQ(focused(), "Text8");
+  Click(kEditor, "Command15");
+  EXPECT_FALSE(Find<TextBox>(kEditor, "Text8").visible());
+  Click(kEditor, "Command6");
+  EXPECT_TRUE(Find<TextBox>(kEditor, "Text8").visible()) << "what was hidden can be shown again";
 }
 
 TEST_F(TemplateEditorScreen, FullTemplate_ReplacesItsLastEvent) {

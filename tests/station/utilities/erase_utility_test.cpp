@@ -100,7 +100,7 @@ TEST_F(EraseRecordings, List_EntersTheRowWithItsDriveAndCutsIt) {
   Select(kErase, "List2", 0);
   Find<ListBox>(kErase, "List2").DoubleClick();
   EXPECT_EQ(Rows(kErase, "List2").at(0).substr(0, 11), "0001  M0002");
-  EXPECT_EQ(Shown(kErase, "Text3"), "20 Seconds cut");
+  EXPECT_EQ(Shown(kErase, "Text3"), "Quixair Recording Eraser");
 }
 
 TEST_F(EraseRecordings, Erase_DeletesDataAndAudioAndListsTheLibraryAnew) {
