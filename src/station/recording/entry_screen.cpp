@@ -3,8 +3,8 @@
 #include "station/console/station_paths.h"
 #include "station/library/hand_over_files.h"
 #include "station/platform/dialogs.h"
+#include "station/platform/files.h"
 #include "station/platform/programs.h"
-#include "station/platform/recorder.h"
 #include "station/platform/text.h"
 
 namespace quixair {
@@ -15,24 +15,25 @@ constexpr int kWholeId = 6;
 constexpr std::string_view kNotInIds = "\" /\\:;#|'";
 constexpr Color kImportColor{0xCCCFFC};  // plain value 0xfccfcc
 constexpr std::size_t kExtension = 4;
+constexpr const char* kAnswered = "1";  // the number of a box's button: wanted, the engineer knows it so
 
 }  // namespace
 
 EntryScreen::EntryScreen(const Platform& platform, const EntryKind& kind)
-    : Screen(platform, kind.screen, kind.title), data(*this, kind.kind, TextBox::Use::kEnter), kind_(kind) {
+    : Screen(platform, kind.screen, kind.title),
+      data(*this, kind.kind, TextBox::Use::kEnter),
+      audition(*this, Text1, kind.plays_mp3),
+      kind_(kind) {
   Label11.SetCaption(kind.list_caption);
   Label12.SetCaption(kind.id_cue);
   data.id().SetHint(kind.id_cue);
   ConnectButtons();
   ConnectId();
   ConnectList();
-  PlayByHand(MMControl1);
-  Drive1.on_click = [this] { DriveChosen(); };
-  Timer1.on_tick = [this] { ShowPosition(); };
 }
 
 void EntryScreen::ConnectButtons() {
-  Command1.on_click = [this] { NewRecording(); };
+  Command1.on_click = [this] { BeginNew(Mode::kNew); };
   Command2.on_click = [this] { Audition(); };
   Command3.on_click = [this] { platform_.screens.Open("EraseUtility"); };
   Command4.on_click = [this] { EditData(); };
@@ -90,11 +91,7 @@ void EntryScreen::Load() {
   data.SetCaptionColor(std::nullopt);
   EnableExtras(false);
   PresetRead({});
-  Drive1.Hide();
-  Drive1.Enable();
-  Drive1.Refresh();
-  Drive1.SelectDrive(platform_.capture.drive());
-  drive_.clear();
+  drive.Reset();
   Label12.Hide();
   File1.SetPattern(kind_.pattern);
   File1.SetPath("c:\\qxdata");
@@ -113,8 +110,7 @@ void EntryScreen::LeaveModes() {
   new_id_ = false;
   existing_.reset();
   looked_up_.clear();
-  Timer1.SetEnabled(false);
-  MMControl1.Command(ChannelCommand::kClose);
+  audition.End();
 }
 
 void EntryScreen::EnableChoices(bool enabled) {
@@ -122,10 +118,6 @@ void EntryScreen::EnableChoices(bool enabled) {
     choice->Enable(enabled);
   }
   File1.Enable(enabled);
-}
-
-void EntryScreen::NewRecording() {
-  BeginNew(Mode::kNew);
 }
 
 void EntryScreen::BeginNew(Mode mode) {
@@ -137,12 +129,48 @@ void EntryScreen::BeginNew(Mode mode) {
   data.id().Enable();
   data.EnableData(true);
   data.drive().Hide();
-  Drive1.Show();
+  drive.Drive1.Show();
   Label12.Show();
   data.length().SetText("[New]");
   if (*kind_.new_hint != '\0') Text1.SetText(kind_.new_hint);
   NewRecordingBegins();
   data.id().SetFocus();
+}
+
+void EntryScreen::Audition() {
+  mode_ = Mode::kAudition;
+  EnableChoices(false);
+  Command8.Enable();
+  if (*kind_.audition_done != '\0') {
+    Command9.SetCaption(kind_.audition_done);
+    Command9.Enable();
+  }
+  Text1.SetText("Audition an Existing Recording...");
+  const std::string id = platform_.dialogs.InputBox(
+      "Enter ID, then 'OK', or 'Cancel' to choose from list..\n"
+      "[Make sure you include 'S' 'M' or 'L' as the first digit.]",
+      "Audition Recording", {.text = letter_, .use = InputOffer::Use::kBeginning});
+  if (id.empty()) {
+    File1.Enable();
+    File1.SetFocus();
+  } else {
+    Play(id);
+  }
+}
+
+/// An id of another kind is taken by this screen's lines, too short a file ending the program: wanted.
+void EntryScreen::Play(const std::string& id) {
+  Recording recording(id, kind_.kind);
+  const Status read = recording.Read(platform_.files);
+  if (!read.ok()) {
+    TellNotRead(read, id, AbnormalFault::kEndsProgram);
+    if (read.error() == RunTimeError::kFileNotFound) Load();
+    return;
+  }
+  data.id().SetMaxLength(static_cast<int>(id.size()));
+  data.Show(recording);
+  const std::optional<std::string> length = audition.Play(recording.value(Field::kDrive), id);
+  if (length) data.length().SetText(*length);
 }
 
 void EntryScreen::EditData() {
@@ -260,8 +288,8 @@ void EntryScreen::ShowExisting(const Recording& recording) {
   data.id().Disable();
   data.EnableData(true);
   EnableExtras(true);
-  drive_ = recording.value(Field::kDrive);
-  Drive1.Hide();
+  drive.Take(recording.value(Field::kDrive));
+  drive.Drive1.Hide();
   data.drive().Show();
   Label12.Hide();
   EnableChoices(false);
@@ -269,7 +297,9 @@ void EntryScreen::ShowExisting(const Recording& recording) {
   Command9.Enable();
   if (mode_ == Mode::kEdit) Text1.SetText(recording.id() + kind_.file_taken);
   PresetRead(recording.value(Field::kPresetLength));
-  MeasureAudio(recording.id());
+  // Audio that is not there leaves the length as the data file has it.
+  const std::optional<std::string> length = audition.Measure(drive.letter(), recording.id());
+  if (length) data.length().SetText(*length);
   data.first_text().SetFocus();
   if (mode_ == Mode::kImport) AskBeforeImport();
 }
@@ -283,6 +313,96 @@ void EntryScreen::AskBeforeImport() {
   } else {
     GoToImport(data.id().text());
   }
+}
+
+void EntryScreen::RecordNow() {
+  if (mode_ == Mode::kAudition) {
+    Load();
+    return;
+  }
+  if (data.id().enabled() && data.id().text().empty()) return data.id().SetFocus();  // told when it was left
+  const bool id_not_left = data.id().enabled() && looked_up_ != data.id().text();
+  if (id_not_left) {  // pressed by its key, the id still in focus
+    IdLeft();
+    if (!new_id_) return;
+  }
+  if (new_id_ && !drive.HasFolder()) return;
+  EnableFields(false);
+  const Recording recording = Gathered();
+  Text1.SetText("Writing to Disk...");
+  Repaint();
+  const Status written = Write(recording);
+  if (!written.ok()) {
+    TellNotWritten(written, recording.id());
+  } else if (mode_ == Mode::kImport) {
+    GoToImport(recording.id());
+  } else if (mode_ == Mode::kEdit) {
+    Load();
+  } else {
+    GoToCapture(recording.id());
+  }
+}
+
+Recording EntryScreen::Gathered() const {
+  const std::string id = (new_id_ ? letter_ : std::string()) + data.id().text();
+  Recording recording = existing_ && !new_id_ ? *existing_ : Recording(id, kind_.kind);
+  data.PutInto(recording);
+  recording.Set(Field::kRecordingId, id);
+  recording.Set(Field::kDrive, drive.letter());
+  recording.Set(Field::kPresetLength, Preset());
+  return recording;
+}
+
+Status EntryScreen::Write(const Recording& recording) {
+  const Status written = recording.Write(platform_.files);
+  return written.ok() ? WriteHandOver(platform_.files, recording) : written;
+}
+
+void EntryScreen::GoToCapture(const std::string& id) {
+  if (const Status written = WriteLastRecording(platform_.files, id); !written.ok()) {
+    TellNotWritten(written, id);
+    return;
+  }
+  DeleteOldAudio(drive.letter(), id);
+  Text1.SetText("Calling Quixair Recorder");
+  LeaveModes();
+  platform_.screens.Open(kind_.capture_screen);
+  Unload();
+}
+
+void EntryScreen::GoToImport(const std::string& id) {
+  const Status written =
+      WriteImportRequest(platform_.files, {.RecordingId = id, .Drive = drive.letter(), .kind = kind_.kind});
+  if (!written.ok()) {
+    TellNotWritten(written, id);
+    return;
+  }
+  LeaveModes();
+  platform_.screens.Open("ImportWin");
+  Unload();
+}
+
+void EntryScreen::EnableFields(bool enabled) {
+  data.id().Enable(enabled && new_id_);
+  data.EnableData(enabled);
+  EnableExtras(enabled);
+  drive.Drive1.Enable(enabled);
+}
+
+void EntryScreen::TellNotRead(const Status& fault, const std::string& missing, AbnormalFault abnormal) {
+  TellRecordFault(platform_.dialogs, fault, missing, kind_.software, abnormal);
+  LeaveModes();
+  EnableFields(false);
+  Command9.Disable();
+  Command8.Enable();
+  Command8.SetFocus();
+  Text1.SetText(kAnswered);
+}
+
+void EntryScreen::TellNotWritten(const Status& fault, const std::string& id) {
+  TellRecordFault(platform_.dialogs, fault, id, kind_.software, AbnormalFault::kEndsProgram);
+  EnableFields(true);
+  Text1.SetText(kAnswered);
 }
 
 }  // namespace quixair

@@ -3,7 +3,7 @@
 // The screens on which a recording enters the library: RecordSpot, RecordASong, RecordLiner. The operator names
 // it, types its data and is sent on to the capture screen or to the import screen; existing recordings are
 // auditioned, edited and recorded anew. EntryScreen is what the three share; EntryKind is what they differ in
-// as data, and the classes at the end add what only one of them has.
+// as data, and their own classes add what only one of them has.
 //
 // The data file is written before there is any audio: a new recording is listed from that moment, with the
 // length "[New]", and an existing one keeps its audio until the capture overwrites it.
@@ -11,7 +11,8 @@
 #include <optional>
 #include <string>
 
-#include "station/recording/audition.h"
+#include "station/recording/audio_drive.h"
+#include "station/recording/entry_audition.h"
 #include "station/recording/entry_kind.h"
 #include "station/recording/record_boxes.h"
 #include "station/recording/record_faults.h"
@@ -29,8 +30,8 @@ class EntryScreen : public Screen {
   Label Label11{*this, "Label11"};                     // over the list
   FileListBox File1{*this, "File1"};                   // the recordings there are
   RecordBoxes data;
-  DriveListBox Drive1{*this, "Drive1"};  // of a new recording
-  Label Label12{*this, "Label12"};       // the cue beside the id
+  AudioDrive drive{*this, Text1};
+  Label Label12{*this, "Label12"};  // the cue beside the id
 
   Button Command1{*this, "Command1", "&New Recording"};
   Button Command2{*this, "Command2", "&Audition"};
@@ -43,35 +44,29 @@ class EntryScreen : public Screen {
   Button Command9{*this, "Command9", "&Record Now"};
   Button OLE1{*this, "OLE1", "&Volume"};  // the host's mixer
 
-  MediaControl MMControl1{*this, "MMControl1", kAuditionChannel};  // auditions and measures
-  Timer Timer1{*this, "Timer1"};                                   // shows how far an audition is
+  EntryAudition audition;
 
  protected:
-  enum class Mode { kNone, kNew, kAudition, kEdit, kImport, kReRecordLast };
-  Mode mode() const { return mode_; }
-
   /// What only one kind has: its controls follow the mode.
   virtual void NewRecordingBegins() {}
   virtual void PresetRead(const std::string& /*seconds*/) {}
   virtual void EnableExtras(bool /*enabled*/) {}
   virtual std::string Preset() const { return {}; }
   /// Before a capture, which overwrites what is left.
-  virtual void DeleteOldAudio(const std::string& /*drive*/, const std::string& /*id*/) {}
-  virtual void OpeningAudio(bool /*opening*/, const std::string& /*path*/) {}
-
-  /// Where the audio of a recording lies, or would; empty when it was looked for and is nowhere.
-  std::string AudioPath(const std::string& drive, const std::string& id) const;
+  virtual void DeleteOldAudio(const std::string& /*letter*/, const std::string& /*id*/) {}
 
  private:
+  enum class Mode { kNone, kNew, kAudition, kEdit, kImport, kReRecordLast };
+
   void ConnectButtons();
   void ConnectId();
   void ConnectList();
   void EnableChoices(bool enabled);
   void LeaveModes();
 
-  // modes
-  void NewRecording();
   void BeginNew(Mode mode);
+  void Audition();
+  void Play(const std::string& id);
   void EditData();
   void ImportFile();
   void ReRecordLast();
@@ -85,21 +80,6 @@ class EntryScreen : public Screen {
   void AskBeforeImport();
   void GoToImport(const std::string& id);
 
-  // audition
-  void Audition();
-  void Play(const std::string& id);
-  void ShowPosition();
-  void MeasureAudio(const std::string& id);
-  void OpenAudio(const std::string& path);
-  std::string Drive() const;
-
-  // drive
-  void DriveChosen();
-  bool DriveHasFolder(char letter);
-  bool MakeAudioFolder(char letter);
-  void TellDriveFault(char letter, const Status& fault);
-
-  // writing
   void RecordNow();
   Recording Gathered() const;
   Status Write(const Recording& recording);
@@ -116,52 +96,6 @@ class EntryScreen : public Screen {
   std::optional<Recording> existing_;  // the one on the screen, as its data file was
   bool new_id_ = false;                // the typed id names no recording
   std::string looked_up_;              // what was typed when the id was last looked up
-  std::string drive_;                  // chosen, or the recording's own; empty when neither
-};
-
-/// Spots: how long the capture may take is preset.
-class RecordSpot : public EntryScreen {
- public:
-  explicit RecordSpot(const Platform& platform);
-
-  Frame Frame1{*this, "Frame1", "Length:"};
-  OptionButton Option1{Frame1, "Option1", "30"};
-  OptionButton Option2{Frame1, "Option2", "60"};
-  OptionButton Option3{Frame1, "Option3", "90"};
-  TextBox Text6{Frame1, "Text6"};
-  Label Label10{Frame1, "Label10", "Sec."};
-  CheckBox Check1{Frame1, "Check1", "UserStop"};
-
- protected:
-  void NewRecordingBegins() override;
-  void PresetRead(const std::string& seconds) override;
-  void EnableExtras(bool enabled) override;
-  std::string Preset() const override;
-
- private:
-  void TakeTyped();
-
-  std::string preset_;  // "30", "60", "90", what was typed, or empty: the operator stops the capture
-};
-
-/// Songs: their audio may be .mp3.
-class RecordASong : public EntryScreen {
- public:
-  explicit RecordASong(const Platform& platform);
-
-  TextBox Text6{*this, "Text6", TextBox::Use::kShow};  // "wait..." while an .mp3 is opened
-
- protected:
-  void DeleteOldAudio(const std::string& drive, const std::string& id) override;
-  void OpeningAudio(bool opening, const std::string& path) override;
-};
-
-class RecordLiner : public EntryScreen {
- public:
-  explicit RecordLiner(const Platform& platform);
-
- protected:
-  void DeleteOldAudio(const std::string& drive, const std::string& id) override;
 };
 
 }  // namespace quixair
