@@ -246,7 +246,7 @@ void ScriptRunner::ClearStatement(const Arguments& words) {
 }
 
 void ScriptRunner::LeaveStatement(const Arguments& words) {
-  Acting<TextBox>(words[0]).LeaveFocus();
+  Acting<Control>(words[0]).LeaveFocus();
 }
 
 void ScriptRunner::TickStatement(const Arguments& words) {

@@ -56,8 +56,8 @@ class Capture {
   virtual std::optional<RecordingFormat> SavedFormat() = 0;
   virtual Status SaveFormat(const RecordingFormat& format) = 0;
 
-  /// The drive that the latest capture of this run went to: what a new recording is offered. A screen that
-  /// starts a capture sets it.
+  /// The drive that the latest capture of this run went to, or C since the songs' data was edited: what a new
+  /// recording is offered. Those screens set it.
   char drive() const { return drive_; }
   void set_drive(char letter) { drive_ = letter; }
 

@@ -1,8 +1,11 @@
 #include "station/recording/artist_title.h"
 
+#include <algorithm>
+
 #include "station/console/station_paths.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/files.h"
+#include "station/platform/recorder.h"
 
 namespace quixair {
 namespace {
@@ -30,7 +33,12 @@ ArtistTitle::ArtistTitle(const Platform& platform) : Screen(platform, "ArtistTit
 }
 
 void ArtistTitle::Load() {
-  for (std::string& file : platform_.files.List(station_paths::kDataFolder, "M*.DAT").value_or({})) {
+  platform_.capture.set_drive('C');
+  songs_.clear();
+  read_ = 0;
+  loaded_ = 0;
+  Command1.Disable();
+  for (std::string& file : SongFiles()) {
     Recording song(file.substr(0, file.rfind('.')));
     songs_.push_back({.file = std::move(file), .recording = std::move(song)});
   }
@@ -54,6 +62,24 @@ void ArtistTitle::Load() {
                   .done = [this] { ShowAll(); }});
 }
 
+void ArtistTitle::PrepareAgain(const ScreenOpening&) {
+  const std::vector<std::string> files = SongFiles();
+  const bool same = std::equal(files.begin(), files.end(), songs_.begin(), songs_.end(),
+                               [](const std::string& file, const Song& song) { return file == song.file; });
+  if (same || IsEdited()) return;
+  begin_at_ = songs_[loaded_].file;
+  Load();
+}
+
+std::vector<std::string> ArtistTitle::SongFiles() const {
+  return platform_.files.List(station_paths::kDataFolder, "M*.DAT").value_or({});
+}
+
+bool ArtistTitle::IsEdited() const {
+  return Command1.enabled() && !idtext.text().empty() &&
+         Edited().Format() != songs_[loaded_].recording.Format();
+}
+
 bool ArtistTitle::ReadSong() {
   Song& song = songs_[read_++];
   SkipAndGoOn(song.recording.Parse(platform_.files.Read(PathOf(song.file)).value_or({})));
@@ -71,7 +97,9 @@ void ArtistTitle::ShowAll() {
   }
   Text1.SetText(std::to_string(songs_.size()));
   Text2.SetText("Select the number at which to begin editing.   Then click.");
-  List1.Select(0);
+  const auto first =
+      std::find_if(songs_.begin(), songs_.end(), [this](const Song& song) { return song.file == begin_at_; });
+  List1.Select(first == songs_.end() ? 0 : static_cast<int>(first - songs_.begin()));
   LoadSelected();
   List1.SetFocus();
 }
@@ -83,14 +111,18 @@ void ArtistTitle::LoadSelected() {
   Command1.Enable();
 }
 
-void ArtistTitle::SaveItem() {
-  const Song& song = songs_[loaded_];
-  Recording edited = song.recording;
+Recording ArtistTitle::Edited() const {
+  Recording edited = songs_[loaded_].recording;
   edited.Set(Field::kArtist, artisttext.text());
   edited.Set(Field::kTitle, titletext.text());
   edited.Set(Field::kRotation, RotationText.text());
   edited.Set(Field::kFromYear, fromyeartext.text());
-  const Status saved = platform_.files.Write(PathOf(song.file), edited.Format(), Durability::kFlushed);
+  return edited;
+}
+
+void ArtistTitle::SaveItem() {
+  const Song& song = songs_[loaded_];
+  const Status saved = platform_.files.Write(PathOf(song.file), Edited().Format(), Durability::kFlushed);
   if (!saved.ok()) return TellFileFault(platform_.dialogs, saved, song.file + " was not saved.");
   ShowFields(Recording(""));
   if (loaded_ + 1 == songs_.size()) return;

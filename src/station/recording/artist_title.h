@@ -18,6 +18,8 @@ class ArtistTitle : public Screen {
  public:
   explicit ArtistTitle(const Platform& platform);
   void Load() override;
+  /// Songs that came or went meanwhile are taken up, unless a song in the boxes was edited.
+  void PrepareAgain(const ScreenOpening& opening) override;
 
   TextBox Text1{*this, "Text1", TextBox::Use::kShow};  // their number
   TextBox Text2{*this, "Text2", TextBox::Use::kShow};  // the hint
@@ -42,8 +44,11 @@ class ArtistTitle : public Screen {
     std::string file;
     Recording recording;
   };
+  std::vector<std::string> SongFiles() const;
+  bool IsEdited() const;
   /// The next one; true while more are left.
   bool ReadSong();
+  Recording Edited() const;
   void ShowAll();
   void LoadSelected();
   void SaveItem();
@@ -53,6 +58,7 @@ class ArtistTitle : public Screen {
   std::vector<Song> songs_;  // in the folder's order
   std::size_t read_ = 0;     // of them
   std::size_t loaded_ = 0;   // the one in the boxes
+  std::string begin_at_;     // the file that is loaded first, if it is there
   PortionedWork reading_{Timer1};
 };
 

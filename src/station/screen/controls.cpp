@@ -107,6 +107,12 @@ void Control::SetFocus() {
   Changed(Aspect::kFocus);
 }
 
+void Control::LeaveFocus() {
+  RaiseForPerson([this] {
+    if (on_lost_focus) on_lost_focus();
+  });
+}
+
 CaptionedControl::CaptionedControl(ControlOwner& owner, std::string name, ControlKind kind,
                                    std::string caption)
     : Control(owner, std::move(name), kind), caption_(std::move(caption)) {}
@@ -166,12 +172,6 @@ void TextBox::Edit(std::string text) {
   });
 }
 
-void TextBox::LeaveFocus() {
-  RaiseForPerson([this] {
-    if (on_lost_focus) on_lost_focus();
-  });
-}
-
 void ListBox::AddRow(std::string row) {
   if (order_ == Order::kAsAdded) {
     rows_.push_back(std::move(row));
@@ -219,10 +219,9 @@ std::string ListBox::selected_text() const {
   return selected_.empty() ? std::string() : row(selected_.front());
 }
 
-void ListBox::Select(int index) {
-  std::vector<int> wanted;
-  if (index >= 0 && index < row_count()) wanted.push_back(index);
-  if (std::exchange(selected_, wanted) != wanted) Changed(Aspect::kSelection);
+void ListBox::SelectRows(std::vector<int> rows) {
+  std::erase_if(rows, [this](int index) { return index < 0 || index >= row_count(); });
+  if (std::exchange(selected_, rows) != rows) Changed(Aspect::kSelection);
 }
 
 void ListBox::PersonSelects(std::vector<int> rows) {
@@ -262,10 +261,27 @@ void FileListBox::Refresh() {
     Clear();
     return;
   }
+  SetRows(Names());
+}
+
+void FileListBox::CatchUp() {
+  std::vector<std::string> names = Names();
+  if (names == rows()) return;
+  std::vector<int> chosen;
+  for (const int index : selected_rows()) {
+    const auto found = std::find(names.begin(), names.end(), row(index));
+    if (found != names.end()) chosen.push_back(static_cast<int>(found - names.begin()));
+  }
+  SetRows(std::move(names));
+  SelectRows(std::move(chosen));
+}
+
+std::vector<std::string> FileListBox::Names() const {
+  if (path_.empty()) return {};
   std::vector<std::string> names = screen().platform().files.List(path_, pattern_).value_or({});
   std::stable_sort(names.begin(), names.end(),
                    [](const std::string& a, const std::string& b) { return LessIgnoringCase(a, b); });
-  SetRows(std::move(names));
+  return names;
 }
 
 DirListBox::DirListBox(ControlOwner& owner, std::string name)

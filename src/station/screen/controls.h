@@ -118,9 +118,13 @@ class Control {
   void SetHint(std::string hint);
 
   void SetFocus();
+  std::function<void()> on_lost_focus;  // of boxes and drive lists
 
   /// Caption or text, as a person would read it off the control.
   virtual std::string shown_text() const { return {}; }
+
+  // acts of a person
+  void LeaveFocus();
 
  protected:
   Control(ControlOwner& owner, std::string name, ControlKind kind);
@@ -199,7 +203,6 @@ class TextBox : public Control {
   std::function<void()> on_change;
   /// Sees each typed character before it reaches the text, and may replace it; 0 refuses it.
   std::function<void(char& key)> on_key_press;
-  std::function<void()> on_lost_focus;
   std::function<void()> on_enter;
 
   // acts of a person
@@ -207,7 +210,6 @@ class TextBox : public Control {
   void PressEnter();
   /// The whole text as an editor left it, for front ends that edit by themselves.
   void Edit(std::string text);
-  void LeaveFocus();
 
  private:
   Use use_;
@@ -242,7 +244,8 @@ class ListBox : public Control {
   /// Empty when nothing is selected.
   std::string selected_text() const;
   /// -1 or an index that does not exist selects nothing.
-  void Select(int index);
+  void Select(int index) { SelectRows({index}); }
+  void SelectRows(std::vector<int> rows);
   void AllowSeveral(bool allowed = true) { several_ = allowed; }
   bool several() const { return several_; }
 
@@ -278,8 +281,12 @@ class FileListBox : public ListBox {
   const std::string& pattern() const { return pattern_; }
   /// Lists the folder anew; a folder that cannot be read shows no rows.
   void Refresh();
+  /// The same for a person in the middle of something: the files chosen stay chosen.
+  void CatchUp();
 
  private:
+  std::vector<std::string> Names() const;
+
   std::string path_;
   std::string pattern_ = "*.*";
 };

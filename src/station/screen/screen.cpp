@@ -15,6 +15,12 @@ void Screen::Prepare(const ScreenOpening& opening) {
   if (!opening.title.empty()) SetTitle(opening.title);
 }
 
+void Screen::PrepareAgain(const ScreenOpening&) {
+  for (Control* control : controls_) {
+    if (control->kind() == ControlKind::kFileListBox) static_cast<FileListBox*>(control)->CatchUp();
+  }
+}
+
 void Screen::CloseWindow() {
   Unload();
 }

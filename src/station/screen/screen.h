@@ -37,8 +37,9 @@ class Screen : public ControlOwner {
 
   /// What the caller sets before Load; the default takes the title.
   virtual void Prepare(const ScreenOpening& opening);
-  /// Asked for again while it is open; the default leaves the screen as it is.
-  virtual void PrepareAgain(const ScreenOpening&) {}
+  /// Asked for again while it is open; the default leaves the screen as it is, with the files in its lists that
+  /// came meanwhile.
+  virtual void PrepareAgain(const ScreenOpening& opening);
   /// Runs once, when the screen is made and shown.
   virtual void Load() {}
   /// A person closed the window by its frame; the default unloads.

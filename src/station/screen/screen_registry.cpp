@@ -15,6 +15,7 @@ ScreenRegistry::~ScreenRegistry() {
 void ScreenRegistry::Open(std::string_view name, const ScreenOpening& opening) {
   if (Screen* screen = Find(name)) {
     screen->PrepareAgain(opening);
+    if (Find(name) != screen) return;  // it saw that it has no reason to stay
     screen->Show();
     if (observer_ != nullptr) observer_->ScreenActivated(*screen);
     return;

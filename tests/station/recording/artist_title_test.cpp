@@ -115,6 +115,30 @@ TEST_F(ArtistTitleTest, TornFile_LoadsWithEmptyFieldsAndIsRewrittenWhole) {
   EXPECT_EQ(Data(id), "\"30\"\r\n\"" + id + "\"\r\n\"\"\r\n\"Found\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n");
 }
 
+TEST_F(ArtistTitleTest, AskedForAgain_ShowsTheSongsThatCameUnlessAnEditWouldBeLost) {
+  for (const char* id : {"M1", "M2"}) AddSong(id, 30000);
+  std::filesystem::create_directories(folder_.path() / "D" / "QXWAVE");
+  StartConsole();
+  station_.platform().capture.set_drive('D');
+  Menu("ArtistTitleEditor");
+  EXPECT_EQ(station_.platform().capture.drive(), 'C') << "a new recording is offered drive C now";
+  Click(kEditor, "Command1");
+  const std::string loaded = Shown(kEditor, "idtext");
+  Fill("artisttext", "Typed");
+  AddSong("M3", 30000);
+  Menu("ArtistTitleEditor");
+  EXPECT_EQ(Shown(kEditor, "artisttext"), "Typed");
+  EXPECT_EQ(Shown(kEditor, "Text1"), "2");
+  Find<ListBox>(kEditor, "List1").DoubleClick();
+  Menu("ArtistTitleEditor");
+  EXPECT_EQ(Shown(kEditor, "Text1"), "3");
+  EXPECT_EQ(Shown(kEditor, "idtext"), loaded) << "where the editor stood";
+  for (const char* id : {"M1", "M2"}) std::filesystem::remove(Host("QXDATA/" + std::string(id) + ".DAT"));
+  QueueAnswer("OK");
+  Menu("ArtistTitleEditor");
+  EXPECT_FALSE(IsOpen(kEditor)) << "too few";
+}
+
 TEST_F(ArtistTitleTest, SaveThatFails_IsToldAndTheSongStaysInTheBoxes) {
   for (const char* id : {"M1", "M2"}) AddSong(id, 30000);
   Open();
