@@ -7,6 +7,16 @@
 #include "station/console/value_form.h"
 
 namespace quixair {
+namespace {
+
+struct KindCode {
+  RecordingKind kind;
+  std::string_view code;
+};
+constexpr KindCode kKindCodes[] = {
+    {RecordingKind::kSpot, "1"}, {RecordingKind::kMusic, "2"}, {RecordingKind::kLiner, "3"}};
+
+}  // namespace
 
 Status WriteHandOver(Files& files, const Recording& recording) {
   return files.Write(station_paths::kHandOver, recording.Format());
@@ -27,9 +37,10 @@ Result<std::string> ReadLastRecording(Files& files) {
 }
 
 Status WriteImportRequest(Files& files, const ImportRequest& request) {
-  const char* code = request.kind == RecordingKind::kSpot    ? "1"
-                     : request.kind == RecordingKind::kMusic ? "2"
-                                                             : "3";
+  std::string_view code;
+  for (const auto& [kind, known] : kKindCodes) {
+    if (kind == request.kind) code = known;
+  }
   return files.Write(station_paths::kImportRequest,
                      WriteForm().Text(request.RecordingId).Text(request.Drive).Text(code).bytes());
 }
@@ -39,10 +50,11 @@ Result<ImportRequest> ReadImportRequest(Files& files) {
   if (!content.ok()) return content.error();
   std::vector<std::string> values = ReadValues(content.value(), 3);
   if (values.size() < 3) return RunTimeError::kInputPastEnd;
-  const RecordingKind kind = values[2] == "1"   ? RecordingKind::kSpot
-                             : values[2] == "2" ? RecordingKind::kMusic
-                                                : RecordingKind::kLiner;
-  return ImportRequest{std::move(values[0]), std::move(values[1]), kind};
+  ImportRequest request{std::move(values[0]), std::move(values[1]), std::nullopt};
+  for (const auto& [kind, code] : kKindCodes) {
+    if (code == values[2]) request.kind = kind;
+  }
+  return request;
 }
 
 }  // namespace quixair

@@ -4,6 +4,7 @@
 // screen (TEMP.DAT), the id that last went there (TEMPSPOT.DAT), and what an entry screen asks the import screen
 // for (IMPORT.DAT).
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -22,7 +23,7 @@ Result<std::string> ReadLastRecording(Files& files);
 struct ImportRequest {
   std::string RecordingId;
   std::string Drive;
-  RecordingKind kind = RecordingKind::kSpot;
+  std::optional<RecordingKind> kind;  // of the entry screen that asks; none of a code that is not known
   bool operator==(const ImportRequest&) const = default;
 };
 Status WriteImportRequest(Files& files, const ImportRequest& request);

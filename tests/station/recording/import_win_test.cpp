@@ -274,6 +274,21 @@ TEST_F(ImportWinTest, RequestToAnOpenScreen_IsTakenAtOnceOrBehindTheImportThatRu
   }
 }
 
+TEST_F(ImportWinTest, RequestOfNoKnownKind_IsTakenAndLeadsNowhere) {
+  AddSong("M0100", 30000);
+  PutSource("HIT.WAV", 200000);
+  for (const char* code : {"", "7"}) {
+    StartConsole();
+    PutFile("QXAIR/IMPORT.DAT", "\"M0100\"\r\n\"C\"\r\n\"" + std::string(code) + "\"\r\n");
+    station_.Do([this] { station_.platform().screens.Open(kWin); });
+    if (Find<DirListBox>(kWin, "Dir1").path() == "C:\\") GoInto(kWin, "NEW");
+    ImportWhole("HIT.WAV");
+    EXPECT_EQ(Field("M0100", 1), "200.0");
+    EXPECT_TRUE(IsOpen(kWin));
+    EXPECT_FALSE(IsOpen("RecordLiner"));
+  }
+}
+
 TEST_F(ImportWinTest, LastFolder_IsKeptAndShownOnceADataFileIsChosen) {
   AddSong("M0100", 30000);
   PutSource("HIT.WAV", 200000);
