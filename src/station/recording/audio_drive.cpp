@@ -1,5 +1,7 @@
 #include "station/recording/audio_drive.h"
 
+#include <utility>
+
 #include "station/platform/dialogs.h"
 #include "station/platform/files.h"
 #include "station/platform/recorder.h"
@@ -10,14 +12,20 @@ namespace quixair {
 AudioDrive::AudioDrive(Screen& screen, TextBox& hint)
     : Drive1(screen, "Drive1"), screen_(screen), hint_(hint) {
   Drive1.on_click = [this] { Choose(); };
+  Drive1.on_lost_focus = [this] { Leave(); };
 }
 
 void AudioDrive::Reset() {
   letter_.clear();
   Drive1.Hide();
   Drive1.Enable();
+  looked_at_ = false;
+}
+
+void AudioDrive::Offer() {
   Drive1.Refresh();
   Drive1.SelectDrive(letter().front());
+  Drive1.Show();
 }
 
 std::string AudioDrive::letter() const {
@@ -31,6 +39,7 @@ bool AudioDrive::HasFolder() {
 }
 
 void AudioDrive::Choose() {
+  looked_at_ = true;
   const char chosen = Drive1.drive();
   if (HasFolderOn(chosen)) {
     letter_ = chosen;
@@ -38,6 +47,11 @@ void AudioDrive::Choose() {
   }
   Drive1.SelectDrive(letter().front());
   Drive1.SetFocus();
+}
+
+/// Once: who does not want the folder made is not kept in the list for ever.
+void AudioDrive::Leave() {
+  if (!std::exchange(looked_at_, true) && !HasFolderOn(Drive1.drive())) Drive1.SetFocus();
 }
 
 bool AudioDrive::HasFolderOn(char drive) {

@@ -19,8 +19,10 @@ class AudioDrive {
 
   DriveListBox Drive1;
 
-  /// Nothing is chosen: the drive of the latest capture is offered.
+  /// Nothing is chosen.
   void Reset();
+  /// For a new recording: that of the latest capture, until another is chosen.
+  void Offer();
   /// An existing recording's.
   void Take(std::string letter) { letter_ = std::move(letter); }
   /// One letter, as a text.
@@ -30,13 +32,15 @@ class AudioDrive {
 
  private:
   void Choose();
+  void Leave();
   bool HasFolderOn(char drive);
   bool MakeFolder(char drive);
   void Tell(char drive, const Status& fault);
 
   Screen& screen_;
   TextBox& hint_;
-  std::string letter_;  // empty: none was chosen
+  std::string letter_;      // empty: none was chosen
+  bool looked_at_ = false;  // the one that stands in the list
 };
 
 }  // namespace quixair

@@ -29,6 +29,7 @@ std::string EntryAudition::PathOf(const std::string& drive, const std::string& i
 }
 
 std::optional<std::string> EntryAudition::Play(const std::string& drive, const std::string& id) {
+  End();
   const std::string path = PathOf(drive, id);
   if (!Open(path)) {
     hint_.SetText("There is no audio to play: " + (path.empty() ? id : path));

@@ -129,7 +129,7 @@ void EntryScreen::BeginNew(Mode mode) {
   data.id().Enable();
   data.EnableData(true);
   data.drive().Hide();
-  drive.Drive1.Show();
+  drive.Offer();
   Label12.Show();
   data.length().SetText("[New]");
   if (*kind_.new_hint != '\0') Text1.SetText(kind_.new_hint);
@@ -276,14 +276,15 @@ RunTimeError EntryScreen::ShowRecording(const std::string& id) {
     TellNotRead(read, id, AbnormalFault::kReturns);
     return read.error();
   }
-  recording.Set(Field::kRecordingId, id);
+  // An id that was typed in another case is the file's own; a file that was copied by hand holds the other's id.
+  if (!EqualsIgnoringCase(recording.value(Field::kRecordingId), id)) recording.Set(Field::kRecordingId, id);
   existing_ = recording;
   ShowExisting(recording);
   return RunTimeError::kNone;
 }
 
 void EntryScreen::ShowExisting(const Recording& recording) {
-  data.id().SetMaxLength(kWholeId);
+  data.id().SetMaxLength(std::max(kWholeId, static_cast<int>(recording.id().size())));
   data.Show(recording);
   data.id().Disable();
   data.EnableData(true);

@@ -70,7 +70,8 @@ bool IsDayOfMonth(const std::string& day, const std::string& month) {
 }  // namespace
 
 bool LooksLikeDigits(std::string_view text) {
-  return text.empty() || (IsDigit(text.front()) && IsDigit(text.back()));
+  return text.empty() ||
+         (IsDigit(text.front()) && IsDigit(text.back()) && text.find('"') == std::string_view::npos);
 }
 
 void KeepToDigits(TextBox& box) {

@@ -77,12 +77,12 @@ class RecordBoxes {
   DateBoxes* kill_ = nullptr;
 };
 
-/// Empties the box on every change that leaves its first or last character no digit.
+/// Empties the box on every change that leaves in it what does not look like digits.
 void KeepToDigits(TextBox& box);
 /// Empties the box when one of the characters comes into it, and tells which; a box that holds nothing but one
 /// is emptied without a word.
 void RefuseCharacters(TextBox& box, std::string_view refused, const std::function<void(char)>& tell);
-/// Whether its first and its last character are digits, or it is empty.
+/// Whether its first and its last character are digits and no double quote is between them, or it is empty.
 bool LooksLikeDigits(std::string_view text);
 
 }  // namespace quixair

@@ -9,7 +9,7 @@ RecordSpot::RecordSpot(const Platform& platform) : EntryScreen(platform, EntryKi
   Check1.on_click = [this] { PresetRead({}); };
   Text6.on_change = [this] {
     if (!LooksLikeDigits(Text6.text())) Text6.SetText({});
-    if (!Text6.text().empty()) TakeTyped();
+    PresetTyped();
   };
 }
 
@@ -29,10 +29,12 @@ void RecordSpot::PresetRead(const std::string& seconds) {
   Text6.SetText(option_chosen ? std::string() : seconds);
 }
 
-void RecordSpot::TakeTyped() {
+void RecordSpot::PresetTyped() {
+  const bool option_chosen = Option1.selected() || Option2.selected() || Option3.selected();
+  if (Text6.text().empty() && option_chosen) return;  // what was refused leaves the option
   preset_ = Text6.text();
   for (OptionButton* option : {&Option1, &Option2, &Option3}) option->Select(false);
-  Check1.Tick(false);
+  Check1.Tick(preset_.empty());
 }
 
 void RecordSpot::EnableExtras(bool enabled) {

@@ -27,7 +27,7 @@ class RecordSpot : public EntryScreen {
   std::string Preset() const override { return preset_; }
 
  private:
-  void TakeTyped();
+  void PresetTyped();
 
   std::string preset_;  // "30", "60", "90", what was typed, or empty: the operator stops the capture
 };

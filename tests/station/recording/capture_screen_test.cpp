@@ -282,11 +282,17 @@ TEST_F(CaptureScreens, NextNewRecording_IsOfferedTheDriveOfTheLastCapture) {
   auto& drives = Find<DriveListBox>("RecordSpot", "Drive1");
   drives.PersonSelects({1});
   Click("RecordSpot", "Command9");
+  Menu("Spots");  // open beside the capture
+  Find<ListBox>("RecordSpot", "File1").PersonSelects({0});
+  PutFile("QXDATA/S0.DAT", "");
   Click(kSpot, "RecordBtn");
   Advance(2s);
   Click(kSpot, "StopBtn");
   Click(kSpot, "NowExit");
+  EXPECT_THAT(Rows("RecordSpot", "File1"), ElementsAre("S0.DAT", "S1.DAT"));
+  EXPECT_EQ(Find<ListBox>("RecordSpot", "File1").selected_text(), "S1.DAT") << "chosen as before";
   Click("RecordSpot", "Command1");
+  EXPECT_EQ(Find<DriveListBox>("RecordSpot", "Drive1").drive(), 'D');
   Type("RecordSpot", "Text2", "2");
   Leave("RecordSpot", "Text2");
   Click("RecordSpot", "Command9");
@@ -325,6 +331,36 @@ TEST_F(TimeAnnouncements, HourAndMinute_NameTheRecording) {
   EXPECT_EQ(Find<ListBox>("AutoTime", "List1").selected_text(), "01");
   EXPECT_EQ(Find<ListBox>("AutoTime", "List2").selected_text(), "22");
   EXPECT_THAT(Rows("AutoTime", "File1"), ElementsAre("T0122.WAV"));
+}
+
+TEST_F(TimeAnnouncements, CaptureThatEndsWithTheChoiceOpen_IsInItsList) {
+  OpenAutoTime();
+  Find<ListBox>("AutoTime", "List1").PersonSelects({0});
+  Find<ListBox>("AutoTime", "List2").PersonSelects({22});
+  Click("AutoTime", "Command1");
+  Menu("AutoTimeRecord");
+  Click("RecordTimes", "RecordBtn");
+  Advance(3s);
+  Click("RecordTimes", "StopBtn");
+  Find<ListBox>("AutoTime", "List1").PersonSelects({4});
+  Click("RecordTimes", "NowExit");
+  EXPECT_THAT(Rows("AutoTime", "File1"), ElementsAre("T0122.WAV"));
+  EXPECT_EQ(Shown("AutoTime", "Label4"), "Recording Name = T0522.WAV") << "what was chosen stays";
+}
+
+TEST_F(TimeAnnouncements, AnnouncementSentToAnOpenCapture_IsTakenUnlessOneRuns) {
+  for (const char* name : {"T0122.WAV", "T0123.WAV"}) PutFile("QXTIME/" + std::string(name), "2500");
+  OpenAutoTime();
+  DoubleClick("AutoTime", "File1", "T0122.WAV");
+  for (const char* shown : {"T0123.WAV", "T0122.WAV"}) {
+    Menu("AutoTimeRecord");
+    DoubleClick("AutoTime", "File1", shown);
+    EXPECT_EQ(Shown("RecordTimes", "Text2"), shown);
+  }
+  Click("RecordTimes", "RecordBtn");
+  Menu("AutoTimeRecord");
+  DoubleClick("AutoTime", "File1", "T0123.WAV");
+  EXPECT_EQ(Shown("RecordTimes", "Text2"), "T0122.WAV");
 }
 
 TEST_F(TimeAnnouncements, ExistingOne_IsRecordedAnewOrHeardByDoubleClick) {

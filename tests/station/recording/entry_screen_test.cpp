@@ -204,6 +204,12 @@ TEST_F(EntryScreens, LengthFrame_IsOneOfFourWays) {
   Type(kSpot, "Text6", "x");
   EXPECT_EQ(Shown(kSpot, "Text6"), "") << "digits only";
   Type(kSpot, "Text6", "45");
+  Find<TextBox>(kSpot, "Text6").Edit({});
+  EXPECT_EQ(state(), "000 stop ") << "typed and deleted is none";
+  Find<OptionButton>(kSpot, "Option2").PersonSelects();
+  Type(kSpot, "Text6", "x");
+  EXPECT_EQ(state(), "010 - ");
+  Type(kSpot, "Text6", "45");
   for (const bool ticked : {true, false}) {
     Find<CheckBox>(kSpot, "Check1").PersonTicks(ticked);
     EXPECT_EQ(state(), "000 stop ") << "one of the four always holds";
@@ -259,8 +265,10 @@ TEST_F(EntryScreens, FromYear_IsTestedAtItsEndsOnly) {
   BeginNew(kSong, "1");
   Find<TextBox>(kSong, "FromYear").Edit("19x5");
   EXPECT_EQ(Shown(kSong, "FromYear"), "19x5");
-  Find<TextBox>(kSong, "FromYear").Edit("195x");
-  EXPECT_EQ(Shown(kSong, "FromYear"), "");
+  for (const char* refused : {"195x", "19\"5"}) {
+    Find<TextBox>(kSong, "FromYear").Edit(refused);
+    EXPECT_EQ(Shown(kSong, "FromYear"), "") << refused;
+  }
 }
 
 TEST_F(EntryScreens, Drive_WithoutTheFolderCanGetIt) {
@@ -280,6 +288,22 @@ TEST_F(EntryScreens, Drive_WithoutTheFolderCanGetIt) {
   EXPECT_EQ(Shown(kSpot, "Text1"), "D:\\qxwave");
   Click(kSpot, "Command9");
   EXPECT_THAT(FileText("QXDATA/S1.DAT"), HasSubstr("\"S1\"\r\n\"D\"\r\n"));
+}
+
+TEST_F(EntryScreens, Drive_IsLookedAtOnceWhenItIsLeft) {
+  BeginNew(kSpot, "1");
+  auto& drives = Find<DriveListBox>(kSpot, "Drive1");
+  drives.LeaveFocus();
+  EXPECT_EQ(Shown(kSpot, "Text1"), "C:\\qxwave");
+  std::filesystem::remove_all(Host("QXWAVE"));
+  Click(kSpot, "Command8");
+  Click(kSpot, "Command1");
+  QueueAnswer("No");
+  drives.LeaveFocus();
+  EXPECT_EQ(boxes().back().title, "The QXWAVE Folder Doesn't Exist on Drive C");
+  EXPECT_EQ(station_.FindScreen(kSpot)->focused(), &drives);
+  drives.LeaveFocus();
+  EXPECT_EQ(boxes().size(), 1U) << "nobody is kept there";
 }
 
 TEST_F(EntryScreens, Drive_ThatIsNotThereIsToldAndNotTaken) {
@@ -315,6 +339,12 @@ TEST_F(EntryScreens, Audition_PlaysAndTellsThePosition) {
   Click(kSpot, "Command2");
   DoubleClick(kSpot, "File1", "S42.DAT");
   EXPECT_EQ(aired().back().id, "S42") << "from the list";
+  AddSpot("S43", 30000);
+  std::filesystem::remove(Host("QXWAVE/S43.wav"));
+  Find<FileListBox>(kSpot, "File1").Refresh();
+  DoubleClick(kSpot, "File1", "S43.DAT");
+  Advance(1s);
+  EXPECT_EQ(Shown(kSpot, "Text1"), "There is no audio to play: C:\\QXWAVE\\S43.wav") << "it stays readable";
 }
 
 TEST_F(EntryScreens, Audition_OfASongTakesItsMp3AndEndsByDone) {
@@ -360,6 +390,17 @@ TEST_F(EntryScreens, EditData_SavesAndStartsOver) {
   EXPECT_TRUE(IsOpen(kLiner));
   EXPECT_EQ(Find<Button>(kLiner, "Command9").caption(), "&Record Now");
   EXPECT_FALSE(Exists("QXAIR/TEMPSPOT.DAT")) << "nothing goes to a capture";
+}
+
+TEST_F(EntryScreens, EditData_ShowsTheWholeIdAsTheFileHasIt) {
+  AddSong("MABC123", 3000);
+  OpenEntry(kSong);
+  QueueAnswer("mabc123");
+  Click(kSong, "Command4");
+  EXPECT_EQ(Id(kSong), "MABC123");
+  EXPECT_GE(Find<TextBox>(kSong, "Text2").max_length(), 7) << "an editor cuts what is longer";
+  Click(kSong, "Command9");
+  EXPECT_THAT(FileText("QXDATA/MABC123.DAT"), StartsWith("\"3\"\r\n\"MABC123\"\r\n"));
 }
 
 TEST_F(EntryScreens, EditData_OfWhatIsNotThereAsksAgain) {
