@@ -3,7 +3,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QEvent>
+#include <QFocusEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -193,6 +193,12 @@ class DriveBinding : public Binding {
       : Binding(drives, widget), drives_(drives), widget_(widget) {
     connect(&widget, &QComboBox::activated, this,
             [this](int row) { Act([this, row] { drives_.PersonSelects({row}); }); });
+    widget.installEventFilter(this);
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == &widget_) TellIfLeft(*event);
+    return false;
   }
 
  protected:
@@ -252,6 +258,17 @@ void Binding::Act(const std::function<void()>& act) {
   Mark(Aspect::kTicked);
   Mark(Aspect::kSelection);
   if (on_act) on_act();
+}
+
+/// Focus that goes to another program or to a menu comes back: the person has not left the widget.
+void Binding::TellIfLeft(const QEvent& event) {
+  if (event.type() != QEvent::FocusOut) return;
+  const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();
+  if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+      reason == Qt::MenuBarFocusReason) {
+    return;
+  }
+  Act([this] { control_->LeaveFocus(); });
 }
 
 void Binding::Apply() {

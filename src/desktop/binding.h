@@ -41,6 +41,8 @@ class Binding : public QObject {
   virtual void ShowTransport() {}
   /// Runs the act of a person unless the control is gone.
   void Act(const std::function<void()>& act);
+  /// For widgets that are left as an act: an event of theirs.
+  void TellIfLeft(const QEvent& event);
 
  private:
   static unsigned Bit(Aspect aspect) { return 1U << static_cast<unsigned>(aspect); }

@@ -18,6 +18,7 @@ ScreenWindow::ScreenWindow(Screen& screen, QWidget* form, QMdiArea& area)
   } else {
     child_ = new QMdiSubWindow;
     child_->setAttribute(Qt::WA_DeleteOnClose, false);
+    child_->setFocusPolicy(Qt::NoFocus);  // a press on its frame, to move or close it, leaves no box
     child_->setWindowIcon(area.windowIcon());
     child_->setWidget(form);
     window_ = child_;

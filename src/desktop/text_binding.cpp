@@ -1,4 +1,3 @@
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -12,12 +11,6 @@ namespace quixair::desktop {
 namespace {
 
 constexpr int kNoLimit = 32767;  // the editor's own
-
-/// Focus that goes to another program or to a menu comes back: the person has not left the box.
-bool LeavesForGood(const QFocusEvent& event) {
-  return event.reason() != Qt::ActiveWindowFocusReason && event.reason() != Qt::PopupFocusReason &&
-         event.reason() != Qt::MenuBarFocusReason;
-}
 
 /// The byte that a key types; none for keys that type nothing, or something outside the code page.
 std::optional<char> TypedByte(const QKeyEvent& event) {
@@ -44,9 +37,7 @@ class LineBinding : public Binding {
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (watched != &widget_) return false;
-    if (event->type() == QEvent::FocusOut && LeavesForGood(*static_cast<QFocusEvent*>(event))) {
-      Act([this] { box_.LeaveFocus(); });
-    }
+    TellIfLeft(*event);
     return event->type() == QEvent::KeyPress && TakesKey(*static_cast<QKeyEvent*>(event));
   }
 
@@ -88,10 +79,7 @@ class PageBinding : public Binding {
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
-    if (watched == &widget_ && event->type() == QEvent::FocusOut &&
-        LeavesForGood(*static_cast<QFocusEvent*>(event))) {
-      Act([this] { box_.LeaveFocus(); });
-    }
+    if (watched == &widget_) TellIfLeft(*event);
     return false;
   }
 

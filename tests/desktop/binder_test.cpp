@@ -130,6 +130,28 @@ TEST_F(BinderTest, DriveChosen_ReachesItsControlAndCanBeTakenBack) {
   EXPECT_EQ(form_.drives->currentText(), QStringLiteral("D:")) << "the station took it back";
 }
 
+TEST_F(BinderTest, BoxOrDriveListThatIsLeft_TellsItsControl) {
+  screen_->Drive1.Refresh();
+  Bind();
+  form_.root.activateWindow();
+  const std::pair<Control*, QWidget*> cases[] = {{&screen_->Drive1, form_.drives},
+                                                 {&screen_->Text1, form_.line}};
+  for (const auto& [control, widget] : cases) {
+    int left = 0;
+    control->on_lost_focus = [&left] { ++left; };
+    for (const Qt::FocusReason comes_back :
+         {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason, Qt::MenuBarFocusReason}) {
+      QFocusEvent event(QEvent::FocusOut, comes_back);
+      QApplication::sendEvent(widget, &event);
+      EXPECT_EQ(left, 0) << control->name() << ' ' << comes_back;
+    }
+    widget->setFocus(Qt::TabFocusReason);
+    form_.check->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(left, 1) << control->name();
+    control->on_lost_focus = nullptr;
+  }
+}
+
 TEST_F(BinderTest, EnterOnAFolder_GoesIn) {
   ASSERT_TRUE(screen_->Dir1.SetPath("C:\\").ok());
   Bind();

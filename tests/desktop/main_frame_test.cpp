@@ -85,6 +85,21 @@ TEST_F(MainFrameTest, ClosingAChild_IsTheScreensDecision) {
   EXPECT_TRUE(window->isVisible());
 }
 
+TEST_F(MainFrameTest, PressOnAChildsFrame_LeavesTheFocusInTheBoxThatHasIt) {
+  StartPastSplash();
+  frame_->activateWindow();
+  ChooseMenu("Music");
+  Rest();
+  Widget<QAbstractButton>("RecordASong", "Command1").click();
+  Rest();
+  ASSERT_EQ(QApplication::focusWidget(), &Widget<QWidget>("RecordASong", "Text2"));
+  QTest::mouseClick(WindowOf("RecordASong"), Qt::LeftButton, {}, {200, 8});
+  EXPECT_EQ(QApplication::focusWidget(), &Widget<QWidget>("RecordASong", "Text2"));
+  EXPECT_TRUE(boxes().empty()) << "an id that is empty has not been left";
+  WindowOf("RecordASong")->close();
+  EXPECT_FALSE(IsOpen("RecordASong"));
+}
+
 TEST_F(MainFrameTest, ClosingTheFrame_EndsTheProgramInOrder) {
   StartPastSplash();
   PutFile("QXAIR/RESET.DTA", "\"1\"\r\n\"RANDOM\"\r\n\"\"\r\n\"\"\r\n");
