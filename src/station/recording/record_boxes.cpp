@@ -12,6 +12,8 @@ using enum Field;
 
 constexpr int kDatePart = 2;
 constexpr int kTypedId = 5;
+constexpr Color kPaleRed{0xFFC8C8};
+constexpr std::string_view kDigits = "0123456789";
 constexpr std::string_view kNoDate = "--";  // of three empty boxes
 
 // The preset length of a spot has controls of its own.
@@ -54,9 +56,9 @@ bool IsDigit(char letter) {
   return letter >= '0' && letter <= '9';
 }
 
-/// The three parts of "mm-dd-yy" by their places; parts that are not there are empty.
-std::string PartAt(std::string_view date, std::size_t place) {
-  return std::string(date.substr(std::min(place, date.size()), kDatePart));
+/// A part of "mm-dd-yy" by its place; one that is not there is empty.
+std::string PartAt(std::string_view date, std::size_t place, std::size_t length = kDatePart) {
+  return std::string(date.substr(std::min(place, date.size()), std::min<std::size_t>(length, kDatePart)));
 }
 
 /// The month is compared as text, so that "9" is not held to thirty days: wanted.
@@ -101,9 +103,11 @@ DateBoxes::DateBoxes(Screen& screen, const std::string& name, TextBox::Use use)
 }
 
 void DateBoxes::Show(std::string_view date) {
-  month.SetText(PartAt(date, 0));
-  day.SetText(PartAt(date, 3));
-  year.SetText(PartAt(date, 6));
+  const std::size_t first = std::min(date.find_first_not_of(kDigits), date.size());
+  const std::size_t second = std::min(date.find_first_not_of(kDigits, first + 1), date.size());
+  month.SetText(PartAt(date, 0, first));
+  day.SetText(PartAt(date, first + 1, second - first - 1));
+  year.SetText(PartAt(date, second + 1));
 }
 
 std::string DateBoxes::Joined() const {
@@ -112,6 +116,14 @@ std::string DateBoxes::Joined() const {
 
 void DateBoxes::Enable(bool enabled) {
   for (TextBox* part : {&month, &day, &year}) part->Enable(enabled);
+}
+
+void DateBoxes::MarkUnlessDate(int this_year) {
+  const std::string date = Joined();
+  const bool marked = date != kNoDate && !CalendarDay(date, this_year);
+  for (TextBox* part : {&month, &day, &year}) {
+    part->SetBackColor(marked ? std::optional<Color>(kPaleRed) : std::nullopt);
+  }
 }
 
 RecordBoxes::RecordBoxes(Screen& screen, RecordingKind kind, TextBox::Use use)
@@ -151,6 +163,7 @@ void RecordBoxes::Show(const Recording& recording) {
       (box++)->SetText(recording.value(field));
     }
   }
+  MarkDates();
 }
 
 void RecordBoxes::PutInto(Recording& recording) const {
@@ -176,10 +189,16 @@ void RecordBoxes::EnableData(bool enabled) {
 void RecordBoxes::Clear() {
   for (TextBox& box : boxes_) box.SetText({});
   for (DateBoxes& date : dates_) date.Show({});
+  MarkDates();
 }
 
 void RecordBoxes::ShowToday() {
   start_->Show(MonthDayYear(screen_.platform().clock.Now()));
+  MarkDates();
+}
+
+void RecordBoxes::MarkDates() {
+  for (DateBoxes& date : dates_) date.MarkUnlessDate(screen_.platform().clock.Now().year);
 }
 
 void RecordBoxes::SetCaptionColor(std::optional<Color> color) {
@@ -189,7 +208,13 @@ void RecordBoxes::SetCaptionColor(std::optional<Color> color) {
 void RecordBoxes::HoldToRules() {
   for (TextBox* box : texts_) RefuseQuotes(*box);
   for (DateBoxes& date : dates_) {
-    for (TextBox* part : {&date.month, &date.day, &date.year}) KeepToDigits(*part);
+    for (TextBox* part : {&date.month, &date.day, &date.year}) {
+      KeepToDigits(*part);
+      part->on_change = [this, keep = part->on_change] {
+        keep();
+        MarkDates();
+      };
+    }
   }
   if (year_ != nullptr) KeepToDigits(*year_);
   HoldStartDate();
@@ -236,6 +261,12 @@ void RecordBoxes::HoldStartDate() {
   start_->year.on_lost_focus = [this, today] {
     if (start_->year.text().empty()) start_->year.SetText(today(6));
   };
+  for (TextBox* part : {&start_->month, &start_->day, &start_->year}) {
+    part->on_lost_focus = [this, check = part->on_lost_focus] {
+      check();
+      MarkDates();
+    };
+  }
 }
 
 }  // namespace quixair

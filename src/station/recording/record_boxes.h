@@ -21,10 +21,12 @@ struct DateBoxes {
   DateBoxes(Screen& screen, const std::string& name, TextBox::Use use);
   TextBox month, day, year;
 
-  /// Takes the text apart by position: "03-07-01".
+  /// "03-07-01"; a date of single figures or in part shows as it was typed.
   void Show(std::string_view date);
   std::string Joined() const;
   void Enable(bool enabled);
+  /// What is no date, and would hold nothing back on the air, is red; boxes that are all empty are none.
+  void MarkUnlessDate(int this_year);
 };
 
 /// A field of a recording as a screen shows it.
@@ -61,6 +63,7 @@ class RecordBoxes {
  private:
   void HoldToRules();
   void RefuseQuotes(TextBox& box);
+  void MarkDates();
   void HoldStartDate();
 
   Screen& screen_;

@@ -249,6 +249,32 @@ TEST_F(EntryScreens, StartDate_IsRefilledOrRefused) {
   EXPECT_EQ(Shown(kSpot, "KillMM"), "99") << "a kill date is not checked";
 }
 
+TEST_F(EntryScreens, DateOfSingleDigitsOrInPart_ShowsAsItWasTypedAndIsKept) {
+  const struct {
+    const char *kill, *shown;
+    bool marked;
+  } cases[] = {{"03-04-27", "03 04 27", false}, {"5-1-26", "5 1 26", false}, {"05--", "05  ", true},
+               {"12-3-", "12 3 ", true},        {"02-31-27", "02 31 27", true}, {"", "  ", false}};
+  for (const auto& [kill, shown, marked] : cases) {
+    SCOPED_TRACE(kill);
+    AddSpot("S42", 30000, "F", "01-02-26", kill);
+    const std::string before = FileText("QXDATA/S42.DAT");
+    OpenEntry(kSpot);
+    QueueAnswer("S42");
+    Click(kSpot, "Command4");
+    EXPECT_EQ(Shown(kSpot, "KillMM") + ' ' + Shown(kSpot, "KillDD") + ' ' + Shown(kSpot, "KillYY"), shown);
+    EXPECT_EQ(Find<TextBox>(kSpot, "KillDD").back_color().has_value(), marked) << "no date for the air";
+    Click(kSpot, "Command9");
+    EXPECT_EQ(FileText("QXDATA/S42.DAT"), before);
+  }
+  Click(kSpot, "Command1");
+  Type(kSpot, "KillMM", "05");
+  EXPECT_TRUE(Find<TextBox>(kSpot, "KillYY").back_color().has_value());
+  Type(kSpot, "KillDD", "31");
+  Type(kSpot, "KillYY", "27");
+  EXPECT_FALSE(Find<TextBox>(kSpot, "KillYY").back_color().has_value());
+}
+
 TEST_F(EntryScreens, Quotes_NeverReachADataField) {
   BeginNew(kSong, "1");
   for (const char* box : {"Text3", "Text5", "Text8"}) {
