@@ -33,6 +33,10 @@ void EraseUtility::Load() {
   StartLoading();
 }
 
+void EraseUtility::PrepareAgain(const ScreenOpening&) {
+  if (!loading() && List2.row_count() == 0) Reopen();
+}
+
 void EraseUtility::Reopen() {
   ListLibrary();
   StartLoading();

@@ -18,6 +18,8 @@ class EraseUtility : public EventListScreen {
   explicit EraseUtility(const Platform& platform);
   ~EraseUtility() override;
   void Load() override;
+  /// Recordings that came meanwhile are listed, unless some are chosen to be erased.
+  void PrepareAgain(const ScreenOpening& opening) override;
   void CloseWindow() override;
 
   Button Command1{*this, "Command1", "&Erase List"};

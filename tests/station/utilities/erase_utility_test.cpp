@@ -72,6 +72,18 @@ TEST_F(EraseRecordings, Opening_ShowsTheLibraryWithItsDrives) {
   }
 }
 
+TEST_F(EraseRecordings, AskedForAgain_ListsWhatCameMeanwhileUnlessSomethingIsChosen) {
+  Open();
+  AddSpot("S3", 20000);
+  Menu("EraseRecordings");
+  EXPECT_EQ(Rows(kErase, "List3").size(), 3U);
+  Add("S1");
+  AddSpot("S4", 20000);
+  Menu("EraseRecordings");
+  EXPECT_EQ(Rows(kErase, "List3").size(), 3U);
+  EXPECT_EQ(Rows(kErase, "List2").size(), 1U);
+}
+
 TEST_F(EraseRecordings, EmptyKinds_AreToldAndRefuseNothing) {
   for (const char* id : {"M0001", "M0002", "M0003"})
     std::filesystem::remove(Host("QXDATA/" + std::string(id) + ".DAT"));
