@@ -54,6 +54,12 @@ TEST_F(ArtistTitleTest, Songs_AreListedInTheFoldersOrderAndTheFirstIsLoaded) {
                                                         {"idtext", first},
                                                         {"drivetext", "C"}};
   for (const auto& [field, text] : fields) EXPECT_EQ(Shown(kEditor, field), text) << field;
+  const std::pair<const char*, int> limits[] = {
+      {"artisttext", 20}, {"titletext", 20}, {"RotationText", 1}, {"fromyeartext", 4}};
+  for (const auto& [field, limit] : limits)
+    EXPECT_EQ(Find<TextBox>(kEditor, field).max_length(), limit) << field;
+  Click(kEditor, "Command3", {"OK"});
+  EXPECT_EQ(boxes().back().title, "How to use the data file editor");
 }
 
 TEST_F(ArtistTitleTest, Save_WritesTheFourFieldsAndGoesToTheNext) {
@@ -134,8 +140,7 @@ TEST_F(ArtistTitleTest, AskedForAgain_ShowsTheSongsThatCameUnlessAnEditWouldBeLo
   EXPECT_EQ(Shown(kEditor, "Text1"), "3");
   EXPECT_EQ(Shown(kEditor, "idtext"), loaded) << "where the editor stood";
   for (const char* id : {"M1", "M2"}) std::filesystem::remove(Host("QXDATA/" + std::string(id) + ".DAT"));
-  QueueAnswer("OK");
-  Menu("ArtistTitleEditor");
+  Menu("ArtistTitleEditor", {"OK"});
   EXPECT_FALSE(IsOpen(kEditor)) << "too few";
 }
 
@@ -146,8 +151,7 @@ TEST_F(ArtistTitleTest, SaveThatFails_IsToldAndTheSongStaysInTheBoxes) {
   Fill("artisttext", "Kept");
   std::filesystem::remove(Host("QXDATA/" + id + ".DAT"));
   std::filesystem::create_directories(Host("QXDATA/" + id + ".DAT"));
-  QueueAnswer("OK");
-  Click(kEditor, "Command1");
+  Click(kEditor, "Command1", {"OK"});
   EXPECT_NE(boxes().back().text.find(id + ".DAT was not saved."), std::string::npos);
   EXPECT_EQ(Shown(kEditor, "artisttext"), "Kept");
   EXPECT_TRUE(station_.running());

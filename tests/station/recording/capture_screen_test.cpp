@@ -121,8 +121,7 @@ TEST_F(CaptureScreens, NoInput_IsToldAndTheRecordStaysAsItWas) {
   HandOverSpot("30");
   const std::string before = FileText("QXDATA/S1.DAT");
   station_.capture().input_there = false;
-  QueueAnswer("OK");
-  Click(kSpot, "RecordBtn");
+  Click(kSpot, "RecordBtn", {"OK"});
   EXPECT_THAT(boxes().back().text, HasSubstr("The sound input is not there."));
   Advance(3s);
   EXPECT_EQ(FileText("QXDATA/S1.DAT"), before);
@@ -155,8 +154,7 @@ TEST_F(CaptureScreens, DataFileThatCannotBeWritten_IsToldAndStopTriesAgain) {
   Advance(8s);
   std::filesystem::remove(Host("QXDATA/M5.DAT"));
   Block("QXDATA/M5.DAT");
-  QueueAnswer("OK");
-  Click(kSong, "StopBtn");
+  Click(kSong, "StopBtn", {"OK"});
   EXPECT_THAT(Shown(kSong, "Text6"), StartsWith("The data file was not written"));
   EXPECT_TRUE(Exists("QXWAVE/M5.WAV"));
   EXPECT_TRUE(station_.running());
@@ -198,14 +196,12 @@ TEST_F(SpotStoppedByHand, NextSpotSentHereAtOnce_KeepsItsOwnLength) {
 TEST_F(SpotStoppedByHand, DataFileBusyForAMoment_IsToldOnceAndWrittenTheSecondTime) {
   std::filesystem::rename(Host("QXDATA"), Host("AWAY"));
   station_.dialogs().on_box = [this](const auto&) { Advance(1500ms); };
-  QueueAnswer("OK");
-  Click(kSpot, "StopBtn");
+  Click(kSpot, "StopBtn", {"OK"});
   station_.dialogs().on_box = nullptr;
   EXPECT_EQ(boxes().size(), 1U) << "and none over it";
   Click(kSpot, "RecordBtn");
   Advance(3s);
-  QueueAnswer("OK");
-  Click(kSpot, "StopBtn");
+  Click(kSpot, "StopBtn", {"OK"});
   std::filesystem::rename(Host("AWAY"), Host("QXDATA"));
   Advance(1s);
   EXPECT_THAT(FileText("QXDATA/S1.DAT"), StartsWith("\"3.0\""));
@@ -247,13 +243,11 @@ TEST_F(CaptureScreens, CancelErase_TakesBothFilesAfterTheQuestion) {
   Click(kSong, "RecordBtn");
   Advance(8s);
   Click(kSong, "StopBtn");
-  QueueAnswer("Cancel");
-  Click(kSong, "CancelButton");
+  Click(kSong, "CancelButton", {"Cancel"});
   EXPECT_EQ(boxes().back().text,
             "You are about to erase M5 and\nall data associated with this file.  Do you wish to continue?");
   EXPECT_TRUE(Exists("QXDATA/M5.DAT"));
-  QueueAnswer("OK");
-  Click(kSong, "CancelButton");
+  Click(kSong, "CancelButton", {"OK"});
   EXPECT_FALSE(Exists("QXDATA/M5.DAT"));
   EXPECT_FALSE(Exists("QXWAVE/M5.WAV"));
   EXPECT_TRUE(IsOpen("RecordASong"));
@@ -262,8 +256,7 @@ TEST_F(CaptureScreens, CancelErase_TakesBothFilesAfterTheQuestion) {
 TEST_F(CaptureScreens, Format_IsKeptBySaveAloneAndTakenAtStart) {
   HandOver("RecordASong", "5");
   EXPECT_EQ(Shown(kSong, "Label5"), "PCM  44100 Hz, 16 Bit, Stereo");
-  QueueAnswer("22050 8 1");
-  Click(kSong, "changesettingsButton");
+  Click(kSong, "changesettingsButton", {"22050 8 1"});
   EXPECT_EQ(Shown(kSong, "Label5"), "PCM  22050 Hz, 8 Bit, Mono");
   Click(kSong, "SaveSettingsButton");
   Click(kSong, "RecordBtn");
@@ -271,8 +264,7 @@ TEST_F(CaptureScreens, Format_IsKeptBySaveAloneAndTakenAtStart) {
   Click(kSong, "StopBtn");
   EXPECT_EQ(std::filesystem::file_size(Host("QXWAVE/M5.WAV")), 44U + 2U * 22050U);
   station_.capture().save_fault = RunTimeError::kPathFileAccess;
-  QueueAnswer("OK");
-  Click(kSong, "SaveSettingsButton");
+  Click(kSong, "SaveSettingsButton", {"OK"});
   EXPECT_THAT(boxes().back().text, HasSubstr("The format was not saved."));
 }
 
@@ -283,7 +275,7 @@ TEST_F(CaptureScreens, NextNewRecording_IsOfferedTheDriveOfTheLastCapture) {
   drives.PersonSelects({1});
   Click("RecordSpot", "Command9");
   Menu("Spots");  // open beside the capture
-  Find<ListBox>("RecordSpot", "File1").PersonSelects({0});
+  Select("RecordSpot", "File1", 0);
   PutFile("QXDATA/S0.DAT", "");
   Click(kSpot, "RecordBtn");
   Advance(2s);
@@ -309,14 +301,12 @@ class TimeAnnouncements : public RecordingFixture {
 
 TEST_F(TimeAnnouncements, HourAndMinute_NameTheRecording) {
   OpenAutoTime();
-  QueueAnswer("OK");
-  Click("AutoTime", "Command1");
+  Click("AutoTime", "Command1", {"OK"});
   EXPECT_EQ(boxes().back().title, "Invalid Time");
-  Find<ListBox>("AutoTime", "List1").PersonSelects({0});
-  QueueAnswer("OK");
-  Click("AutoTime", "Command1");
+  Select("AutoTime", "List1", 0);
+  Click("AutoTime", "Command1", {"OK"});
   EXPECT_EQ(boxes().back().title, "Invalid Time") << "no minute";
-  Find<ListBox>("AutoTime", "List2").PersonSelects({22});
+  Select("AutoTime", "List2", 22);
   EXPECT_EQ(Shown("AutoTime", "Label4"), "Recording Name = T0122.WAV");
   Click("AutoTime", "Command1");
   EXPECT_EQ(FileText("QXAIR/TIMERECORD.DTA"), "\"T0122.WAV\"\r\n\"01\"\r\n\"22\"\r\n");
@@ -335,14 +325,14 @@ TEST_F(TimeAnnouncements, HourAndMinute_NameTheRecording) {
 
 TEST_F(TimeAnnouncements, CaptureThatEndsWithTheChoiceOpen_IsInItsList) {
   OpenAutoTime();
-  Find<ListBox>("AutoTime", "List1").PersonSelects({0});
-  Find<ListBox>("AutoTime", "List2").PersonSelects({22});
+  Select("AutoTime", "List1", 0);
+  Select("AutoTime", "List2", 22);
   Click("AutoTime", "Command1");
   Menu("AutoTimeRecord");
   Click("RecordTimes", "RecordBtn");
   Advance(3s);
   Click("RecordTimes", "StopBtn");
-  Find<ListBox>("AutoTime", "List1").PersonSelects({4});
+  Select("AutoTime", "List1", 4);
   Click("RecordTimes", "NowExit");
   EXPECT_THAT(Rows("AutoTime", "File1"), ElementsAre("T0122.WAV"));
   EXPECT_EQ(Shown("AutoTime", "Label4"), "Recording Name = T0522.WAV") << "what was chosen stays";
@@ -368,23 +358,27 @@ TEST_F(TimeAnnouncements, ExistingOne_IsRecordedAnewOrHeardByDoubleClick) {
   OpenAutoTime();
   DoubleClick("AutoTime", "File1", "T1205.WAV");
   EXPECT_EQ(Shown("RecordTimes", "Text2"), "T1205.WAV");
+  EXPECT_EQ(FileText("QXAIR/TIMERECORD.DTA"), "\"T1205.WAV\"\r\n\"\"\r\n\"\"\r\n");
   Click("RecordTimes", "NowExit");
+  EXPECT_EQ(Shown("AutoTime", "Text1"), "Select a Time to Record, Hour first, then Minute");
   Click("AutoTime", "Command3");
-  EXPECT_FALSE(Enabled("AutoTime", "Command1"));
+  EXPECT_EQ(Shown("AutoTime", "Text1"), "Double Click an Existing File To Audition");
+  for (const char* off : {"List1", "List2", "Command1", "Command2", "Command3"})
+    EXPECT_FALSE(Enabled("AutoTime", off)) << off;
   DoubleClick("AutoTime", "File1", "T1205.WAV");
   EXPECT_EQ(Shown("AutoTime", "Text1"), "Length = 2.5  [Press DONE to re-start]");
   EXPECT_EQ(aired().back().id, "T1205");
   Click("AutoTime", "Command4");
   EXPECT_EQ(Find<MediaControl>("AutoTime", "MMControl1").Mode(), ChannelMode::kNotOpen);
   EXPECT_TRUE(Enabled("AutoTime", "Command1"));
+  EXPECT_EQ(Find<FileListBox>("AutoTime", "File1").hint(), "Double Click to Audition");
 }
 
 TEST_F(TimeAnnouncements, Erase_TakesTheRecording) {
   PutFile("QXTIME/T1205.WAV", "2500");
   OpenAutoTime();
   DoubleClick("AutoTime", "File1", "T1205.WAV");
-  QueueAnswer("OK");
-  Click("RecordTimes", "CancelButton");
+  Click("RecordTimes", "CancelButton", {"OK"});
   EXPECT_FALSE(Exists("QXTIME/T1205.WAV"));
   EXPECT_TRUE(IsOpen("AutoTime"));
 }

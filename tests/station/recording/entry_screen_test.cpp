@@ -69,6 +69,54 @@ TEST_F(EntryScreens, NewSongAndLiner_WriteTheirOwnLines) {
   EXPECT_TRUE(IsOpen("RecordITLiner"));
 }
 
+TEST_F(EntryScreens, EachKind_HasItsOwnWordsColorsAndLimits) {
+  AddSpot("S1", 30000);
+  AddSong("M1", 30000);
+  AddLiner("L1", 30000);
+  const struct {
+    const char *screen, *list, *editable, *offered, *file, *taken;
+    std::vector<std::pair<const char*, int>> limits;
+  } cases[] = {{kSpot,
+                "Existing Spots:",
+                "[Only Spots are Editable in this mode - 'S' ",
+                "S|",
+                "S1.DAT",
+                "S1 is the selected file.  Edit data if needed, then 'Save'",
+                {{"Text2", 6}, {"Text3", 15}, {"Text5", 15}, {"Text8", 1}, {"Text9", 1}, {"KillYY", 2}}},
+               {kSong,
+                "Existing Songs:",
+                "[Only Music is Editable in this mode - 'M' ",
+                "M|",
+                "M1.DAT",
+                "M1 is the selected file.  Edit data if needed, then 'Finished'",
+                {{"Text2", 6}, {"Text3", 20}, {"Text5", 20}, {"Text8", 1}, {"FromYear", 4}}},
+               {kLiner,
+                "Existing Liners:",
+                "[Only Liners are Editable in this mode - 'L' ",
+                "L|",
+                "L1.DAT",
+                "L1 is the selected file.  Edit data if needed, then 'Save'",
+                {{"Text2", 6}, {"Text3", 20}, {"Text8", 1}, {"Text9", 1}, {"StartMM", 2}}}};
+  for (const auto& [screen, list, editable, offered, file, taken, limits] : cases) {
+    SCOPED_TRACE(screen);
+    OpenEntry(screen);
+    EXPECT_EQ(Shown(screen, "Label11"), list);
+    Click(screen, "Command4", {""});
+    EXPECT_THAT(boxes().back().text, HasSubstr(editable));
+    EXPECT_EQ(boxes().back().offered, offered);
+    EXPECT_EQ(Find<Label>(screen, "CaptionText3").back_color(), kYellow);
+    Select(screen, "File1", file);
+    EXPECT_EQ(Shown(screen, "Text1"), "Move Up/Down, Then Double Click your selection to continue...");
+    DoubleClick(screen, "File1", file);
+    EXPECT_EQ(Shown(screen, "Text1"), taken);
+    for (const auto& [box, limit] : limits) EXPECT_EQ(Find<TextBox>(screen, box).max_length(), limit) << box;
+    Click(screen, "Command8");
+    EXPECT_FALSE(Find<Label>(screen, "CaptionText3").back_color());
+    Click(screen, "Command5", {"No"});
+    EXPECT_EQ(Find<Label>(screen, "CaptionText3").back_color(), Color{0xCCCFFC});
+  }
+}
+
 TEST_F(EntryScreens, FirstKeyOfAnId_IsExplainedAndGoesThrough) {
   const struct {
     const char *screen, *key, *hint, *id;
@@ -253,15 +301,14 @@ TEST_F(EntryScreens, DateOfSingleDigitsOrInPart_ShowsAsItWasTypedAndIsKept) {
   const struct {
     const char *kill, *shown;
     bool marked;
-  } cases[] = {{"03-04-27", "03 04 27", false}, {"5-1-26", "5 1 26", false}, {"05--", "05  ", true},
+  } cases[] = {{"03-04-27", "03 04 27", false}, {"5-1-26", "5 1 26", false},    {"05--", "05  ", true},
                {"12-3-", "12 3 ", true},        {"02-31-27", "02 31 27", true}, {"", "  ", false}};
   for (const auto& [kill, shown, marked] : cases) {
     SCOPED_TRACE(kill);
     AddSpot("S42", 30000, "F", "01-02-26", kill);
     const std::string before = FileText("QXDATA/S42.DAT");
     OpenEntry(kSpot);
-    QueueAnswer("S42");
-    Click(kSpot, "Command4");
+    Click(kSpot, "Command4", {"S42"});
     EXPECT_EQ(Shown(kSpot, "KillMM") + ' ' + Shown(kSpot, "KillDD") + ' ' + Shown(kSpot, "KillYY"), shown);
     EXPECT_EQ(Find<TextBox>(kSpot, "KillDD").back_color().has_value(), marked) << "no date for the air";
     Click(kSpot, "Command9");
@@ -342,8 +389,7 @@ TEST_F(EntryScreens, Drive_ThatIsNotThereIsToldAndNotTaken) {
   EXPECT_EQ(boxes().back().title, "An Error Has Occurred: Err = 71");
   EXPECT_EQ(drives.drive(), 'C');
   std::filesystem::remove_all(Host("QXWAVE"));
-  QueueAnswer("No");
-  Click(kSpot, "Command9");
+  Click(kSpot, "Command9", {"No"});
   EXPECT_FALSE(Exists("QXDATA/S1.DAT")) << "no folder for the audio, no record";
   EXPECT_TRUE(Enabled(kSpot, "Command9"));
 }
@@ -351,8 +397,7 @@ TEST_F(EntryScreens, Drive_ThatIsNotThereIsToldAndNotTaken) {
 TEST_F(EntryScreens, Audition_PlaysAndTellsThePosition) {
   AddSpot("S42", 30000);
   OpenEntry(kSpot);
-  QueueAnswer("S42");
-  Click(kSpot, "Command2");
+  Click(kSpot, "Command2", {"S42"});
   EXPECT_EQ(boxes().back().offered, "S|") << "the beginning of an id";
   EXPECT_EQ(Shown(kSpot, "Text1"), "C:\\QXWAVE\\S42.wav");
   EXPECT_FALSE(Enabled(kSpot, "Text3"));
@@ -361,8 +406,7 @@ TEST_F(EntryScreens, Audition_PlaysAndTellsThePosition) {
   Click(kSpot, "Command8");
   EXPECT_EQ(Find<MediaControl>(kSpot, "MMControl1").Mode(), ChannelMode::kNotOpen);
   EXPECT_EQ(Shown(kSpot, "Text1"), kReady);
-  QueueAnswer("");
-  Click(kSpot, "Command2");
+  Click(kSpot, "Command2", {""});
   DoubleClick(kSpot, "File1", "S42.DAT");
   EXPECT_EQ(aired().back().id, "S42") << "from the list";
   AddSpot("S43", 30000);
@@ -377,8 +421,11 @@ TEST_F(EntryScreens, Audition_OfASongTakesItsMp3AndEndsByDone) {
   AddSong("M1", 30000);
   std::filesystem::rename(Host("QXWAVE/M1.wav"), Host("QXWAVE/M1.mp3"));
   OpenEntry(kSong);
-  QueueAnswer("M1");
-  Click(kSong, "Command2");
+  std::string told;
+  station_.media().on_event = [&](const simulation::ChannelEvent&) { told += Shown(kSong, "Text6"); };
+  Click(kSong, "Command2", {"M1"});
+  station_.media().on_event = nullptr;
+  EXPECT_EQ(told, "wait...") << "while it is opened, and no longer";
   EXPECT_EQ(Shown(kSong, "Text1"), "C:\\QXWAVE\\M1.mp3");
   EXPECT_EQ(Find<Button>(kSong, "Command9").caption(), "&Done");
   EXPECT_FALSE(Find<TextBox>(kSong, "Text6").visible()) << "the file is open";
@@ -389,15 +436,11 @@ TEST_F(EntryScreens, Audition_OfASongTakesItsMp3AndEndsByDone) {
 
 TEST_F(EntryScreens, Audition_FaultsAreToldAndOnlyAnAbnormalOneEndsTheProgram) {
   OpenEntry(kSpot);
-  QueueAnswer("S9");
-  QueueAnswer("OK");
-  Click(kSpot, "Command2");
+  Click(kSpot, "Command2", {"S9", "OK"});
   EXPECT_EQ(boxes().back().title, "S9.dat Was Not Found");
   EXPECT_EQ(Shown(kSpot, "Text1"), kReady);
   PutFile("QXDATA/S9.DAT", "\"[New]\"\r\n\"S9\"\r\n");
-  QueueAnswer("S9");
-  QueueAnswer("OK");
-  Click(kSpot, "Command2");
+  Click(kSpot, "Command2", {"S9", "OK"});
   EXPECT_EQ(boxes().back().title, "Abnormal Error # 62");
   EXPECT_FALSE(station_.running());
 }
@@ -405,10 +448,7 @@ TEST_F(EntryScreens, Audition_FaultsAreToldAndOnlyAnAbnormalOneEndsTheProgram) {
 TEST_F(EntryScreens, EditData_SavesAndStartsOver) {
   AddLiner("L5", 4000);
   OpenEntry(kLiner);
-  QueueAnswer("L5");
-  Click(kLiner, "Command4");
-  EXPECT_THAT(boxes().back().text, HasSubstr("[Only Liners are Editable in this mode - 'L' "));
-  EXPECT_EQ(boxes().back().offered, "L|");
+  Click(kLiner, "Command4", {"L5"});
   EXPECT_EQ(Find<Button>(kLiner, "Command9").caption(), "&Save");
   Fill(kLiner, "Text3", "Renamed");
   Click(kLiner, "Command9");
@@ -421,8 +461,7 @@ TEST_F(EntryScreens, EditData_SavesAndStartsOver) {
 TEST_F(EntryScreens, EditData_ShowsTheWholeIdAsTheFileHasIt) {
   AddSong("MABC123", 3000);
   OpenEntry(kSong);
-  QueueAnswer("mabc123");
-  Click(kSong, "Command4");
+  Click(kSong, "Command4", {"mabc123"});
   EXPECT_EQ(Id(kSong), "MABC123");
   EXPECT_GE(Find<TextBox>(kSong, "Text2").max_length(), 7) << "an editor cuts what is longer";
   Click(kSong, "Command9");
@@ -432,8 +471,7 @@ TEST_F(EntryScreens, EditData_ShowsTheWholeIdAsTheFileHasIt) {
 TEST_F(EntryScreens, EditData_OfWhatIsNotThereAsksAgain) {
   AddSong("M1", 3000);
   OpenEntry(kSpot);
-  for (const char* answer : {"S77", "OK", "M1", "OK", ""}) QueueAnswer(answer);
-  Click(kSpot, "Command4");
+  Click(kSpot, "Command4", {"S77", "OK", "M1", "OK", ""});
   ASSERT_EQ(boxes().size(), 5U);
   EXPECT_EQ(boxes()[1].title, "SS77.dat Was Not Found") << "the letter doubled";
   EXPECT_EQ(boxes()[3].title, "SM1.dat Was Not Found") << "a song is none of this screen's";
@@ -445,18 +483,14 @@ TEST_F(EntryScreens, EditData_WithoutAudioKeepsTheLength) {
   AddSpot("S42", 30000);
   std::filesystem::rename(Host("QXWAVE/S42.wav"), Host("QXWAVE/S42.mp3"));  // imported
   OpenEntry(kSpot);
-  QueueAnswer("");
-  Click(kSpot, "Command4");
-  DoubleClick(kSpot, "File1", "S42.DAT");
-  EXPECT_EQ(Shown(kSpot, "Text1"), "S42 is the selected file.  Edit data if needed, then 'Save'");
+  Click(kSpot, "Command4", {"S42"});
   Click(kSpot, "Command9");
   EXPECT_THAT(FileText("QXDATA/S42.DAT"), StartsWith("\"30\"\r\n"));
 }
 
 TEST_F(EntryScreens, Import_OfANewFileWritesItAndGoesOn) {
   OpenEntry(kSong);
-  QueueAnswer("Yes");
-  Click(kSong, "Command5");
+  Click(kSong, "Command5", {"Yes"});
   EXPECT_EQ(Find<Button>(kSong, "Command9").caption(), "I&mport Now");
   Type(kSong, "Text2", "9");
   Leave(kSong, "Text2");
@@ -471,14 +505,12 @@ TEST_F(EntryScreens, Import_OfAnExistingFileAsksWhetherToEditFirst) {
   AddSpot("S42", 30000);
   const std::string before = FileText("QXDATA/S42.DAT");
   OpenEntry(kSpot);
-  for (const char* answer : {"No", "Yes"}) QueueAnswer(answer);
-  Click(kSpot, "Command5");
+  Click(kSpot, "Command5", {"No", "Yes"});
   DoubleClick(kSpot, "File1", "S42.DAT");
   EXPECT_EQ(boxes().back().title, "(Import) File Already Exists");
   EXPECT_TRUE(Enabled(kSpot, "Text3"));
   Click(kSpot, "Command8");
-  for (const char* answer : {"No", "No"}) QueueAnswer(answer);
-  Click(kSpot, "Command5");
+  Click(kSpot, "Command5", {"No", "No"});
   DoubleClick(kSpot, "File1", "S42.DAT");
   EXPECT_EQ(FileText("QXAIR/IMPORT.DAT"), "\"S42\"\r\n\"C\"\r\n\"1\"\r\n");
   EXPECT_EQ(FileText("QXDATA/S42.DAT"), before);
@@ -489,8 +521,7 @@ TEST_F(EntryScreens, ReRecordLast_TakesOnlyItsOwnKind) {
   AddSpot("S42", 30000);
   OpenEntry(kSpot);
   const auto refused = [this](const char* text) {
-    QueueAnswer("OK");
-    Click(kSpot, "Command6");
+    Click(kSpot, "Command6", {"OK"});
     EXPECT_EQ(boxes().back().text, text);
     EXPECT_EQ(boxes().back().title, "Can't Re-Record Last");
     EXPECT_EQ(Shown(kSpot, "Text1"), kReady);
@@ -498,6 +529,14 @@ TEST_F(EntryScreens, ReRecordLast_TakesOnlyItsOwnKind) {
   refused("Sorry, There is no previous file to re-record!");
   PutFile("QXAIR/TEMPSPOT.DAT", "\"M1\"\r\n");
   refused("The last file recorded was not a Spot file!");
+  OpenEntry(kLiner);
+  Click(kLiner, "Command6", {"OK"});
+  EXPECT_EQ(boxes().back().text, "The last file recorded was not a Liner file!");
+  PutFile("QXAIR/TEMPSPOT.DAT", "\"L1\"\r\n");
+  OpenEntry(kSong);
+  Click(kSong, "Command6", {"OK"});
+  EXPECT_EQ(boxes().back().text, "The last file recorded was not a Music file!");
+  OpenEntry(kSpot);
   PutFile("QXAIR/TEMPSPOT.DAT", "\"S42\"\r\n");
   Click(kSpot, "Command6");
   EXPECT_EQ(Id(kSpot), "S42");
@@ -535,8 +574,7 @@ TEST_F(EntryScreens, RecordThatCannotBeRead_LeavesRestartAlone) {
 TEST_F(EntryScreens, RecordThatCannotBeWritten_EndsTheProgramAfterItsBox) {
   BeginNew(kSpot, "1");
   Block("QXDATA/S1.DAT");
-  QueueAnswer("OK");
-  Click(kSpot, "Command9");
+  Click(kSpot, "Command9", {"OK"});
   EXPECT_THAT(boxes().back().title, StartsWith("Abnormal Error # "));
   EXPECT_FALSE(station_.running());
 }
@@ -547,8 +585,7 @@ TEST_F(EntryScreens, MissingDataFolder_HasItsOwnWords) {
   for (const auto& [screen, words] : cases) {
     BeginNew(screen, "1");
     std::filesystem::rename(Host("QXDATA"), Host("AWAY"));
-    QueueAnswer("OK");
-    Click(screen, "Command9");
+    Click(screen, "Command9", {"OK"});
     std::filesystem::rename(Host("AWAY"), Host("QXDATA"));
     EXPECT_EQ(boxes().back().title, "The C:\\QXDATA Folder Can't Be Found");
     EXPECT_THAT(boxes().back().text, HasSubstr(words));

@@ -231,9 +231,10 @@ TEST_F(ImportWinAutoTest, NoDriveOrNoFile_IsToldAndNothingBegins) {
   Choose(kAuto, "Drive2", {"C:"});
   EXPECT_EQ(Shown(kAuto, "Label5"), "File will be imported to Drive c...");
   Choose(kAuto, "File2", {});
-  QueueAnswer("OK");
-  Click(kAuto, "Command1");
+  Click(kAuto, "Command1", {"OK"});
   EXPECT_EQ(boxes().back().text, "Select a File to Import Before Continuing!");
+  Click(kAuto, "Command4", {"OK"});
+  EXPECT_EQ(boxes().back().title, "How to use the Fast Importer");
   Advance(10s);
   EXPECT_TRUE(FilesIn("QXDATA").empty());
 }
