@@ -107,6 +107,7 @@ void AutoTime::Record() {
         box_style::kCritical, "Invalid Time");
     return;
   }
+  if (IsCapturing(platform_, "RecordTimes")) return;
   const Status written =
       WriteTimeRequest(platform_.files, {name_, List1.selected_text(), List2.selected_text()});
   if (!written.ok()) {
@@ -159,11 +160,11 @@ void RecordTimes::Load() {
 }
 
 void RecordTimes::PrepareAgain(const ScreenOpening&) {
-  if (!recorder.MMWaveRecorderX.capturing()) Load();
+  if (!recorder.capturing()) Load();
 }
 
 void RecordTimes::CloseWindow() {
-  if (recorder.MMWaveRecorderX.capturing()) recorder.Finish(Ending::kByOperator);
+  if (recorder.capturing()) recorder.Finish(Ending::kByOperator);
   Unload();
 }
 

@@ -51,6 +51,7 @@ class RecordTimes : public Screen {
   void Load() override;
   /// Another announcement was sent here while this stood open.
   void PrepareAgain(const ScreenOpening& opening) override;
+  bool IsBusy() const override { return recorder.capturing(); }
   void CloseWindow() override;
 
   TextBox Text2{*this, "Text2", TextBox::Use::kShow};  // the name of the file

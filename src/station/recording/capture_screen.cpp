@@ -36,16 +36,16 @@ void CaptureScreen::Load() {
 }
 
 void CaptureScreen::PrepareAgain(const ScreenOpening&) {
-  if (!recorder.MMWaveRecorderX.capturing()) Load();
+  if (!recorder.capturing()) Load();
 }
 
 void CaptureScreen::CloseWindow() {
-  if (recorder.MMWaveRecorderX.capturing()) recorder.Finish(Ending::kByOperator);
+  if (recorder.capturing()) recorder.Finish(Ending::kByOperator);
   Unload();
 }
 
 void CaptureScreen::ProgramEnds() {
-  if (recorder.MMWaveRecorderX.capturing()) recorder.Finish(Ending::kProgramEnds);
+  if (recorder.capturing()) recorder.Finish(Ending::kProgramEnds);
 }
 
 std::string CaptureScreen::DataPath() const {
@@ -91,7 +91,7 @@ RecordITSpot::RecordITSpot(const Platform& platform) : CaptureScreen(platform, k
   // A Stop by hand leaves the timer on, which then writes the same length once more: wanted, a data file that
   // was busy the first time gets it the second.
   Timer2.on_tick = [this] {
-    if (recorder.MMWaveRecorderX.capturing()) return;
+    if (recorder.capturing()) return;
     Timer2.SetEnabled(false);
     recorder.Finish(Ending::kOnceMore);
   };

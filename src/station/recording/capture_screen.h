@@ -27,6 +27,7 @@ class CaptureScreen : public Screen {
   void Load() override;
   /// Another recording was sent here while this stood open: it is taken, unless a capture runs.
   void PrepareAgain(const ScreenOpening& opening) override;
+  bool IsBusy() const override { return recorder.capturing(); }
   void CloseWindow() override;
   void ProgramEnds() override;
 

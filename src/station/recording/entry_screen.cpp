@@ -6,6 +6,7 @@
 #include "station/platform/files.h"
 #include "station/platform/programs.h"
 #include "station/platform/text.h"
+#include "station/recording/recorder_panel.h"
 
 namespace quixair {
 namespace {
@@ -328,6 +329,8 @@ void EntryScreen::RecordNow() {
     if (!new_id_) return;
   }
   if (new_id_ && !drive.HasFolder()) return;
+  const bool goes_to_capture = mode_ != Mode::kImport && mode_ != Mode::kEdit;
+  if (goes_to_capture && IsCapturing(platform_, kind_.capture_screen)) return;
   EnableFields(false);
   const Recording recording = Gathered();
   Text1.SetText("Writing to Disk...");

@@ -165,4 +165,12 @@ void RecorderPanel::SaveSettings() {
   ShowFormat();
 }
 
+bool IsCapturing(const Platform& platform, std::string_view screen) {
+  const Screen* open = platform.screens.Find(screen);
+  if (open == nullptr || !open->IsBusy()) return false;
+  platform.dialogs.MessageBox("Another recording is being made just now.  Stop it first, then try again.",
+                              box_style::kExclamation, "A Recording Is Being Made");
+  return true;
+}
+
 }  // namespace quixair

@@ -7,6 +7,7 @@
 #include <chrono>
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "station/screen/recorder_control.h"
 #include "station/screen/screen.h"
@@ -56,6 +57,7 @@ class RecorderPanel {
   void Start();
   /// Ends the capture, if one runs, and has what there is saved.
   void Finish(Ending ending);
+  bool capturing() const { return MMWaveRecorderX.capturing(); }
   /// Asks whether the recording is to go; the channel lets go of it when it is.
   bool EraseConfirmed(const std::string& name);
 
@@ -71,5 +73,8 @@ class RecorderPanel {
   Screen& screen_;
   bool ending_ = false;  // the capture does not end by itself
 };
+
+/// Whether a capture runs on the screen of that name, which is told: nothing can be sent there then.
+bool IsCapturing(const Platform& platform, std::string_view screen);
 
 }  // namespace quixair

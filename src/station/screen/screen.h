@@ -40,6 +40,8 @@ class Screen : public ControlOwner {
   /// Asked for again while it is open; the default leaves the screen as it is, with the files in its lists that
   /// came meanwhile.
   virtual void PrepareAgain(const ScreenOpening& opening);
+  /// In the middle of what must not be broken off for another task.
+  virtual bool IsBusy() const { return false; }
   /// Runs once, when the screen is made and shown.
   virtual void Load() {}
   /// A person closed the window by its frame; the default unloads.

@@ -238,6 +238,21 @@ TEST_F(CaptureScreens, RecordSentToAnOpenCapture_IsTheOneThatIsRecorded) {
   EXPECT_THAT(FileText("QXDATA/M5.DAT"), StartsWith("\"[New]\""));
 }
 
+TEST_F(CaptureScreens, RecordNowWhileACaptureRuns_IsRefusedBeforeTheAudioGoes) {
+  HandOver("RecordASong", "5");
+  Click(kSong, "RecordBtn");
+  Advance(2s);
+  Menu("Music");
+  Click("RecordASong", "Command6");
+  Click("RecordASong", "Command9", {"OK"});
+  EXPECT_EQ(boxes().back().title, "A Recording Is Being Made");
+  EXPECT_TRUE(Exists("QXWAVE/M5.WAV"));
+  Click(kSong, "StopBtn");
+  Click("RecordASong", "Command9");
+  EXPECT_FALSE(Exists("QXWAVE/M5.WAV"));
+  EXPECT_EQ(Shown(kSong, "Text2"), "M5");
+}
+
 TEST_F(CaptureScreens, CancelErase_TakesBothFilesAfterTheQuestion) {
   HandOver("RecordASong", "5");
   Click(kSong, "RecordBtn");
@@ -338,7 +353,7 @@ TEST_F(TimeAnnouncements, CaptureThatEndsWithTheChoiceOpen_IsInItsList) {
   EXPECT_EQ(Shown("AutoTime", "Label4"), "Recording Name = T0522.WAV") << "what was chosen stays";
 }
 
-TEST_F(TimeAnnouncements, AnnouncementSentToAnOpenCapture_IsTakenUnlessOneRuns) {
+TEST_F(TimeAnnouncements, AnnouncementSentToAnOpenCapture_IsTakenAndRefusedWhileOneRuns) {
   for (const char* name : {"T0122.WAV", "T0123.WAV"}) PutFile("QXTIME/" + std::string(name), "2500");
   OpenAutoTime();
   DoubleClick("AutoTime", "File1", "T0122.WAV");
@@ -349,7 +364,10 @@ TEST_F(TimeAnnouncements, AnnouncementSentToAnOpenCapture_IsTakenUnlessOneRuns) 
   }
   Click("RecordTimes", "RecordBtn");
   Menu("AutoTimeRecord");
+  QueueAnswer("OK");
   DoubleClick("AutoTime", "File1", "T0123.WAV");
+  EXPECT_EQ(boxes().back().title, "A Recording Is Being Made");
+  EXPECT_TRUE(IsOpen("AutoTime"));
   EXPECT_EQ(Shown("RecordTimes", "Text2"), "T0122.WAV");
 }
 
