@@ -15,6 +15,7 @@
 #include "script/script_runner.h"
 #include "simulation/simulated_station.h"
 #include "simulation/temporary_folder.h"
+#include "simulation/world.h"
 #include "sound/length_cache.h"
 #include "station/host/drives.h"
 #include "station/host/system_clock.h"
@@ -23,11 +24,12 @@ namespace {
 
 constexpr std::uint64_t kMostHours = 10000;
 constexpr const char* kUsage =
-    "usage: quixair-script [--drives FILE] [--seed N] SCRIPT    (SCRIPT - reads standard input)\n"
+    "usage: quixair-script [--drives FILE | --scratch] [--seed N] SCRIPT    (SCRIPT - reads standard input)\n"
     "       quixair-script [--seed N] --rehearse DRIVES HOURS\n";
 
 struct CommandLine {
   std::optional<std::string> drives_file;
+  bool scratch = false;
   std::optional<std::uint64_t> seed;
   std::optional<std::chrono::milliseconds> rehearsal;
   std::string script;
@@ -47,6 +49,8 @@ std::optional<CommandLine> Parse(int argc, char** argv) {
     const int values = argc - i - 1;
     if (word == "--drives" && values >= 1) {
       line.drives_file = argv[++i];
+    } else if (word == "--scratch") {
+      line.scratch = true;
     } else if (word == "--seed" && values >= 1) {
       line.seed = WholeNumber(argv[++i]);
       if (!line.seed) return std::nullopt;
@@ -62,6 +66,7 @@ std::optional<CommandLine> Parse(int argc, char** argv) {
     }
   }
   if (line.script.empty() != line.rehearsal.has_value()) return std::nullopt;
+  if (line.scratch && line.drives_file) return std::nullopt;
   return line;
 }
 
@@ -92,9 +97,12 @@ int PlayScript(const CommandLine& line) {
       return 2;
     }
   }
-  Rig rig(LoadDrives(line), line);
-  return quixair::script::ScriptRunner(rig.station, std::cout, std::cerr)
-      .Run(line.script == "-" ? std::cin : file);
+  std::optional<quixair::simulation::TemporaryFolder> folder;
+  if (line.scratch) folder.emplace();
+  Rig rig(folder ? quixair::simulation::EmptyDrives(folder->path()) : LoadDrives(line), line);
+  quixair::script::ScriptRunner runner(rig.station, std::cout, std::cerr);
+  if (line.scratch || line.drives_file) runner.AllowWorld();
+  return runner.Run(line.script == "-" ? std::cin : file);
 }
 
 int Rehearse(const CommandLine& line) try {

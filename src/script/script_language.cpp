@@ -96,6 +96,21 @@ std::chrono::milliseconds SpanOf(std::string_view text) {
   return std::chrono::milliseconds(number * factor);
 }
 
+std::chrono::milliseconds SignedSpanOf(std::string_view text) {
+  const bool back = text.starts_with('-');
+  if (back || text.starts_with('+')) text.remove_prefix(1);
+  return back ? -SpanOf(text) : SpanOf(text);
+}
+
+std::int64_t WholeNumberOf(std::string_view text) {
+  std::int64_t number = 0;
+  const auto parsed = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (parsed.ec != std::errc() || parsed.ptr != text.data() + text.size()) {
+    throw ScriptError("no whole number: " + ToUtf8(text));
+  }
+  return number;
+}
+
 CivilTime MomentOf(std::string_view text) {
   if (!HasShape(text, "0000-00-00 00:00:00")) throw ScriptError("no date and time: " + ToUtf8(text));
   CivilTime time;

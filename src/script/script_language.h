@@ -19,6 +19,12 @@ class ScriptError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+/// An act that nobody could do just now: on a screen that is not open, a control that is hidden or disabled.
+class CannotBeDone : public ScriptError {
+ public:
+  using ScriptError::ScriptError;
+};
+
 struct Word {
   std::string text;       // without its quotes
   std::size_t quoted_at;  // where in the text a quote began, npos when nothing was quoted
@@ -36,8 +42,10 @@ struct ControlReference {
 };
 ControlReference ReferenceOf(const Word& word);
 
-/// "90s", "500ms", "5m", "2h".
+/// "90s", "500ms", "5m", "2h"; and with a sign in front, as a clock is set forth or back.
 std::chrono::milliseconds SpanOf(std::string_view text);
+std::chrono::milliseconds SignedSpanOf(std::string_view text);
+std::int64_t WholeNumberOf(std::string_view text);
 /// "2026-11-22 20:00:00".
 CivilTime MomentOf(std::string_view text);
 /// "21:15:00" or "21:15".

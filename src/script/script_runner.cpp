@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdio>
 
+#include "station/platform/civil_time.h"
 #include "station/platform/text.h"
 #include "station/screen/controls.h"
 #include "station/screen/grid.h"
@@ -14,49 +14,10 @@ namespace {
 
 constexpr std::size_t kAny = 1000;
 
-std::string ColorName(const std::optional<Color>& color) {
-  if (!color) return "default";
-  std::array<char, 16> buffer{};
-  const int length = std::snprintf(buffer.data(), buffer.size(), "#%06X", static_cast<unsigned>(color->rgb));
-  return {buffer.data(), static_cast<std::size_t>(length)};
-}
-
-std::string StateOf(const Control& control) {
-  std::string state = std::string("visible=") + (control.visible_to_person() ? "yes" : "no") +
-                      " enabled=" + (control.enabled_for_person() ? "yes" : "no");
-  if (const auto* box = dynamic_cast<const CheckBox*>(&control)) {
-    state += std::string(" ticked=") + (box->ticked() ? "yes" : "no");
-  }
-  if (const auto* option = dynamic_cast<const OptionButton*>(&control)) {
-    state += std::string(" selected=") + (option->selected() ? "yes" : "no");
-  }
-  if (const auto* list = dynamic_cast<const ListBox*>(&control)) {
-    state += " selected=";
-    if (list->selected_rows().empty()) state += "none";
-    bool first = true;
-    for (const int row : list->selected_rows()) {
-      state += (first ? "#" : ",#") + std::to_string(row + 1);
-      first = false;
-    }
-  }
-  return state + " fore=" + ColorName(control.fore_color()) + " back=" + ColorName(control.back_color());
-}
-
-/// Of the columns that a person sees.
-std::string ShownCells(const Grid& grid, const GridRow& row) {
-  std::string text;
-  for (std::size_t i = 0; i < row.size(); ++i) {
-    if (grid.columns()[i].pixels == 0) continue;
-    if (!text.empty()) text += " | ";
-    text += ToUtf8(row[i]);
-  }
-  return text;
-}
-
 }  // namespace
 
 ScriptRunner::ScriptRunner(simulation::SimulatedStation& station, std::ostream& out, std::ostream& errors)
-    : station_(station), out_(out), errors_(errors), trace_(station, out) {
+    : station_(station), out_(out), errors_(errors), world_(station), trace_(station, out) {
   station.dialogs().on_unexpected = [this](const simulation::ShownBox& box) {
     if (failure_.empty()) failure_ = "an unexpected box: " + Quoted(box.title) + ' ' + Quoted(box.text);
   };
@@ -65,21 +26,24 @@ ScriptRunner::ScriptRunner(simulation::SimulatedStation& station, std::ostream& 
 int ScriptRunner::Run(std::istream& script) {
   std::string line;
   for (int number = 1; std::getline(script, line); ++number) {
-    failure_.clear();
-    try {
-      const std::vector<Word> words = WordsOf(line);
-      if (!words.empty()) Execute(words);
-      if (!station_.running()) station_.PowerCut();  // what has ended leaves nothing behind that could tick
-    } catch (const ScriptError& error) {
-      errors_ << "line " << number << ": " << error.what() << '\n';
-      return 2;
-    }
-    if (!failure_.empty()) {
-      errors_ << "line " << number << ": " << failure_ << '\n';
-      return 1;
-    }
+    const Outcome outcome = Play(line);
+    if (outcome.exit_code == 0) continue;
+    errors_ << "line " << number << ": " << outcome.why << '\n';
+    return outcome.exit_code;
   }
   return 0;
+}
+
+ScriptRunner::Outcome ScriptRunner::Play(std::string_view line) {
+  failure_.clear();
+  try {
+    const std::vector<Word> words = WordsOf(line);
+    if (!words.empty()) Execute(words);
+    if (!station_.running()) station_.PowerCut();  // what has ended leaves nothing behind that could tick
+  } catch (const ScriptError& error) {
+    return {2, error.what()};
+  }
+  return {failure_.empty() ? 0 : 1, failure_};
 }
 
 const std::map<std::string, ScriptRunner::Entry, std::less<>>& ScriptRunner::Statements() {
@@ -108,8 +72,22 @@ const std::map<std::string, ScriptRunner::Entry, std::less<>>& ScriptRunner::Sta
       {"expect-row", {&R::ExpectRowStatement, 2, 2}},
       {"expect-box", {&R::ExpectBoxStatement, 1, 1}},
       {"powercut", {&R::PowerCutStatement, 0, 0}},
+      {"try", {&R::TryStatement, 1, kAny}},
+      {"answer-others", {&R::AnswerOthersStatement, 1, 1}},
+      {"think", {&R::ThinkStatement, 1, 1}},
       {"quiet", {&R::QuietStatement, 0, 0}},
       {"trace", {&R::TraceStatement, 0, 0}},
+      {"seed", {&R::SeedStatement, 1, 1}},
+      {"put", {&R::PutStatement, 1, kAny, true}},
+      {"audio", {&R::AudioStatement, 2, 2, true}},
+      {"tear", {&R::TearStatement, 2, 2, true}},
+      {"remove", {&R::RemoveStatement, 1, 1, true}},
+      {"away", {&R::AwayStatement, 1, 1, true}},
+      {"back", {&R::BackStatement, 1, 1, true}},
+      {"fail", {&R::FailStatement, 3, 3, true}},
+      {"output", {&R::OutputStatement, 1, 1}},
+      {"input", {&R::InputStatement, 1, 1}},
+      {"mend", {&R::MendStatement, 0, 0}},
   };
   return statements;
 }
@@ -121,12 +99,15 @@ void ScriptRunner::Execute(const std::vector<Word>& words) {
   if (arguments.size() < found->second.least || arguments.size() > found->second.most) {
     throw ScriptError(found->first + " has a wrong number of words");
   }
+  if (found->second.of_the_world && !world_allowed_) {
+    throw ScriptError(found->first + " is not done to your own station (--drives or --scratch is wanted)");
+  }
   (this->*found->second.statement)(arguments);
 }
 
 Screen& ScriptRunner::ScreenNamed(std::string_view name) {
   Screen* screen = station_.FindScreen(name);
-  if (screen == nullptr) throw ScriptError("the screen is not open: " + ToUtf8(name));
+  if (screen == nullptr) throw CannotBeDone("the screen is not open: " + ToUtf8(name));
   return *screen;
 }
 
@@ -156,17 +137,21 @@ Kind& ScriptRunner::Acting(const Word& word) {
     throw ScriptError(ToUtf8(word.text) + " is a " + std::string(NameOf(control.kind())) +
                       " and cannot do that");
   }
-  if (!control.visible_to_person()) throw ScriptError("the control is hidden: " + ToUtf8(word.text));
-  if (!control.enabled_for_person()) throw ScriptError("the control is disabled: " + ToUtf8(word.text));
+  if (!control.visible_to_person()) throw CannotBeDone("the control is hidden: " + ToUtf8(word.text));
+  if (!control.enabled_for_person()) throw CannotBeDone("the control is disabled: " + ToUtf8(word.text));
   return *wanted;
 }
 
 void ScriptRunner::ClockStatement(const Arguments& words) {
-  station_.time().SetCivil(MomentOf(words[0].text));
+  const std::string& text = words[0].text;
+  const bool step = text.starts_with('+') || text.starts_with('-');
+  station_.time().SetCivil(
+      step ? CivilFromMilliseconds(MillisecondsFromCivil(station_.time().Now()) + SignedSpanOf(text).count())
+           : MomentOf(text));
 }
 
 void ScriptRunner::StartStatement(const Arguments&) {
-  if (station_.running()) throw ScriptError("the program runs already");
+  if (station_.running()) throw CannotBeDone("the program runs already");
   station_.StartProgram();
   station_.OpenConsole();
 }
@@ -177,7 +162,7 @@ void ScriptRunner::MenuStatement(const Arguments& words) {
 }
 
 void ScriptRunner::OpenStatement(const Arguments& words) {
-  if (!station_.running()) throw ScriptError("the program does not run");
+  if (!station_.running()) throw CannotBeDone("the program does not run");
   station_.Do([&] { station_.platform().screens.Open(words[0].text); });
 }
 
@@ -203,25 +188,15 @@ void ScriptRunner::EnterStatement(const Arguments& words) {
   Acting<ListBox>(words[0]).PressEnter();
 }
 
-void ScriptRunner::ControlsStatement(const Arguments& words) {
-  const Screen& screen = ScreenNamed(words[0].text);
-  out_ << "controls " << screen.name() << ' ' << screen.controls().size() << " rows\n";
-  for (const Control* control : screen.controls()) {
-    const auto* captioned = dynamic_cast<const CaptionedControl*>(control);
-    out_ << "  | " << control->name() << ' ' << NameOf(control->kind()) << ' '
-         << Quoted(captioned != nullptr ? captioned->caption() : "") << '\n';
-  }
-}
-
 int ScriptRunner::RowNamed(const ListBox& list, const Word& word) {
   if (!word.quoted() && word.text.starts_with('#')) {
     int row = 0;
     std::from_chars(word.text.data() + 1, word.text.data() + word.text.size(), row);
-    if (row < 1 || row > list.row_count()) throw ScriptError("no such row: " + word.text);
+    if (row < 1 || row > list.row_count()) throw CannotBeDone("no such row: " + word.text);
     return row - 1;
   }
   const auto found = std::find(list.rows().begin(), list.rows().end(), word.text);
-  if (found == list.rows().end()) throw ScriptError("no such row: " + Quoted(word.text));
+  if (found == list.rows().end()) throw CannotBeDone("no such row: " + Quoted(word.text));
   return static_cast<int>(found - list.rows().begin());
 }
 
@@ -235,13 +210,13 @@ void ScriptRunner::SelectStatement(const Arguments& words) {
 
 void ScriptRunner::TypeStatement(const Arguments& words) {
   auto& box = Acting<TextBox>(words[0]);
-  if (box.read_only()) throw ScriptError("the box is read only: " + ToUtf8(words[0].text));
+  if (box.read_only()) throw CannotBeDone("the box is read only: " + ToUtf8(words[0].text));
   for (const char key : words[1].text) box.TypeKey(key);
 }
 
 void ScriptRunner::ClearStatement(const Arguments& words) {
   auto& box = Acting<TextBox>(words[0]);
-  if (box.read_only()) throw ScriptError("the box is read only: " + ToUtf8(words[0].text));
+  if (box.read_only()) throw CannotBeDone("the box is read only: " + ToUtf8(words[0].text));
   box.Edit({});
 }
 
@@ -275,66 +250,6 @@ void ScriptRunner::AdvanceStatement(const Arguments& words) {
 void ScriptRunner::UntilStatement(const Arguments& words) {
   const CivilTime time = TimeOfDayOf(words[0].text);
   station_.time().AdvanceUntil(time.hour, time.minute, time.second);
-}
-
-void ScriptRunner::ShowStatement(const Arguments& words) {
-  if (words[0].text.find('.') == std::string::npos) {
-    const Screen& screen = ScreenNamed(words[0].text);
-    out_ << "show " << screen.name() << ' ' << Quoted(screen.title()) << '\n';
-    return;
-  }
-  const Control& control = ControlNamed(words[0]);
-  out_ << "show " << control.screen().name() << '.' << control.name();
-  if (const auto* grid = dynamic_cast<const Grid*>(&control)) {
-    out_ << ' ' << grid->row_count() << " rows\n";
-    for (const GridRow& row : grid->rows()) out_ << "  | " << ShownCells(*grid, row) << '\n';
-    return;
-  }
-  const auto* list = dynamic_cast<const ListBox*>(&control);
-  if (list == nullptr) {
-    out_ << ' ' << Quoted(control.shown_text()) << '\n';
-    return;
-  }
-  out_ << ' ' << list->row_count() << " rows\n";
-  for (const std::string& row : list->rows()) out_ << "  | " << ToUtf8(row) << '\n';
-}
-
-void ScriptRunner::StateStatement(const Arguments& words) {
-  const Control& control = ControlNamed(words[0]);
-  out_ << "state " << control.screen().name() << '.' << control.name() << ' ' << StateOf(control) << '\n';
-}
-
-void ScriptRunner::ExpectStatement(const Arguments& words) {
-  const bool screen_title = words[0].text.find('.') == std::string::npos;
-  std::string seen;
-  if (screen_title) {
-    seen = ScreenNamed(words[0].text).title();
-  } else {
-    const Control& control = ControlNamed(words[0]);
-    const auto* list = dynamic_cast<const ListBox*>(&control);
-    seen = list != nullptr ? list->selected_text() : control.shown_text();
-  }
-  if (seen != words[1].text) {
-    failure_ = ToUtf8(words[0].text) + " is " + Quoted(seen) + ", expected was " + Quoted(words[1].text);
-  }
-}
-
-void ScriptRunner::ExpectRowStatement(const Arguments& words) {
-  const auto* list = dynamic_cast<const ListBox*>(&ControlNamed(words[0]));
-  if (list == nullptr) throw ScriptError("not a list: " + ToUtf8(words[0].text));
-  if (std::find(list->rows().begin(), list->rows().end(), words[1].text) == list->rows().end()) {
-    failure_ = ToUtf8(words[0].text) + " has no row " + Quoted(words[1].text);
-  }
-}
-
-void ScriptRunner::ExpectBoxStatement(const Arguments& words) {
-  const auto& shown = station_.dialogs().shown();
-  const std::string title = shown.empty() ? std::string() : shown.back().title;
-  if (shown.empty() || title != words[0].text) {
-    failure_ = shown.empty()
-                   ? "no box was shown, expected was " + Quoted(words[0].text)
-                   : "the last box was " + Quoted(title) + ", expected was " + Quoted(words[0].text);
-  }
 }
 
 void ScriptRunner::PowerCutStatement(const Arguments&) {

@@ -12,6 +12,7 @@
 #include "script/script_language.h"
 #include "script/trace.h"
 #include "simulation/simulated_station.h"
+#include "simulation/world.h"
 
 namespace quixair::script {
 
@@ -20,8 +21,18 @@ class ScriptRunner {
   /// `out` gets the trace and what is shown, `errors` the line and reason of a failure.
   ScriptRunner(simulation::SimulatedStation& station, std::ostream& out, std::ostream& errors);
 
+  /// Whether the script may act as the world does: never on a station that is somebody's own.
+  void AllowWorld() { world_allowed_ = true; }
+
   /// 0 when all went well, 1 at the first failed expectation or unexpected box, 2 when the script itself is wrong.
   int Run(std::istream& script);
+
+  struct Outcome {
+    int exit_code = 0;
+    std::string why;  // not 0
+  };
+  /// One line of a script.
+  Outcome Play(std::string_view line);
 
  private:
   using Arguments = std::vector<Word>;
@@ -30,6 +41,7 @@ class ScriptRunner {
     Statement statement;
     std::size_t least;
     std::size_t most;
+    bool of_the_world = false;
   };
   static const std::map<std::string, Entry, std::less<>>& Statements();
   void Execute(const std::vector<Word>& words);
@@ -57,6 +69,22 @@ class ScriptRunner {
   void ExpectRowStatement(const Arguments& words);
   void ExpectBoxStatement(const Arguments& words);
   void PowerCutStatement(const Arguments& words);
+  void TryStatement(const Arguments& words);
+  void AnswerOthersStatement(const Arguments& words);
+  void ThinkStatement(const Arguments& words);
+
+  void SeedStatement(const Arguments& words);
+  void PutStatement(const Arguments& words);
+  void AudioStatement(const Arguments& words);
+  void TearStatement(const Arguments& words);
+  void RemoveStatement(const Arguments& words);
+  void AwayStatement(const Arguments& words);
+  void BackStatement(const Arguments& words);
+  void FailStatement(const Arguments& words);
+  void OutputStatement(const Arguments& words);
+  void InputStatement(const Arguments& words);
+  void MendStatement(const Arguments& words);
+
   void QuietStatement(const Arguments& words);
   void TraceStatement(const Arguments& words);
 
@@ -70,7 +98,9 @@ class ScriptRunner {
   simulation::SimulatedStation& station_;
   std::ostream& out_;
   std::ostream& errors_;
+  simulation::World world_;
   Trace trace_;
+  bool world_allowed_ = false;
   std::string failure_;  // of the running statement
 };
 

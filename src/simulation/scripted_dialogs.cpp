@@ -47,11 +47,7 @@ Answer ScriptedDialogs::MessageBox(std::string_view text, int style, std::string
                .answer = {}};
   const std::vector<Answer> offered = Offered(style);
   Answer answer = offered.back();
-  std::optional<std::string> wanted;
-  if (!answers_.empty()) {
-    wanted = answers_.front();
-    answers_.pop_front();
-  }
+  const std::optional<std::string> wanted = TakeAnswer();
   const auto match = std::find_if(offered.begin(), offered.end(), [&](Answer candidate) {
     return wanted && EqualsIgnoringCase(NameOf(candidate), *wanted);
   });
@@ -59,7 +55,15 @@ Answer ScriptedDialogs::MessageBox(std::string_view text, int style, std::string
   box.answer = NameOf(answer);
   shown_.push_back(box);
   if (on_box) on_box(box);
-  if (match == offered.end() && on_unexpected) on_unexpected(box);
+  if (match == offered.end() && !otherwise && on_unexpected) on_unexpected(box);
+  return answer;
+}
+
+std::optional<std::string> ScriptedDialogs::TakeAnswer() {
+  if (on_open) on_open();
+  if (answers_.empty()) return otherwise;
+  std::string answer = std::move(answers_.front());
+  answers_.pop_front();
   return answer;
 }
 
@@ -87,14 +91,11 @@ std::optional<RecordingFormat> ScriptedDialogs::FormatBox(const RecordingFormat&
 }
 
 std::string ScriptedDialogs::AnswerTyped(ShownBox box) {
-  const bool expected = !answers_.empty();
-  if (expected) {
-    box.answer = answers_.front();
-    answers_.pop_front();
-  }
+  const std::optional<std::string> answer = TakeAnswer();
+  box.answer = answer.value_or(std::string());
   shown_.push_back(box);
   if (on_box) on_box(box);
-  if (!expected && on_unexpected) on_unexpected(box);
+  if (!answer && on_unexpected) on_unexpected(box);
   return box.answer;
 }
 

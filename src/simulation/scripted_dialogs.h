@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,12 +34,18 @@ class ScriptedDialogs : public Dialogs {
   void QueueAnswer(std::string answer) { answers_.push_back(std::move(answer)); }
   const std::vector<ShownBox>& shown() const { return shown_; }
 
+  /// The answer of boxes for which none is queued: no box is unexpected any more.
+  std::optional<std::string> otherwise;
+
+  /// A box stands open and is about to be answered.
+  std::function<void()> on_open;
   std::function<void(const ShownBox&)> on_box;
   /// A box came for which no answer was queued, or one that it does not offer; it is cancelled, or acknowledged where it
   /// can only be that.
   std::function<void(const ShownBox&)> on_unexpected;
 
  private:
+  std::optional<std::string> TakeAnswer();
   std::string AnswerTyped(ShownBox box);
 
   std::deque<std::string> answers_;

@@ -3,37 +3,11 @@
 #include <algorithm>
 #include <fstream>
 
+#include "simulation/silent_wave.h"
+
 namespace quixair::simulation {
 
 using std::chrono::milliseconds;
-
-namespace {
-
-void PutNumber(std::string& bytes, std::uint32_t value, int size) {
-  for (int i = 0; i < size; ++i) bytes += static_cast<char>(value >> (8 * i));
-}
-
-/// A PCM WAV file of silence.
-std::string SilentWave(const RecordingFormat& format, std::int32_t length) {
-  const auto frame = static_cast<std::uint32_t>(format.channels * format.bits / 8);
-  const auto rate = static_cast<std::uint32_t>(format.rate);
-  const auto frames = static_cast<std::uint32_t>(static_cast<std::int64_t>(length) * format.rate / 1000);
-  std::string bytes = "RIFF";
-  PutNumber(bytes, 36 + frames * frame, 4);
-  bytes += "WAVEfmt ";
-  PutNumber(bytes, 16, 4);
-  PutNumber(bytes, 1, 2);
-  PutNumber(bytes, static_cast<std::uint32_t>(format.channels), 2);
-  PutNumber(bytes, rate, 4);
-  PutNumber(bytes, rate * frame, 4);
-  PutNumber(bytes, frame, 2);
-  PutNumber(bytes, static_cast<std::uint32_t>(format.bits), 2);
-  bytes += "data";
-  PutNumber(bytes, frames * frame, 4);
-  return bytes + std::string(std::size_t{frames} * frame, format.bits == 8 ? '\x80' : '\0');
-}
-
-}  // namespace
 
 class SimulatedCapture::SilentRecorder : public Recorder {
  public:

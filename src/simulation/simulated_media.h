@@ -26,12 +26,12 @@ class SimulatedMedia : public Media {
  public:
   SimulatedMedia(VirtualTime& time, LengthProbe probe) : time_(time), probe_(std::move(probe)) {}
   std::unique_ptr<MediaPlayer> MakePlayer(int number) override;
-  std::string OutputTrouble() const override { return trouble; }
+  std::string OutputTrouble() const override { return output_trouble; }
 
   /// Told of each command that had an effect, of each "Open", and of each end.
   std::function<void(const ChannelEvent&)> on_event;
-  /// What the output is to say of itself.
-  std::string trouble;
+  /// What the output is to say of itself; items go on in their time.
+  std::string output_trouble;
 
  private:
   class Player;

@@ -46,6 +46,11 @@ SimulatedStation::SimulatedStation(Drives drives, const CivilTime& civil, Length
       media_(time_, std::move(probe)),
       capture_(time_),
       random_(seed ? EngineRandom(*seed) : EngineRandom()) {
+  dialogs_.on_open = [this] {
+    if (thinking.count() == 0) return;
+    time_.Advance(thinking);
+    if (program_) program_->gate.LeaveIfEnded();  // nobody is left to answer
+  };
   time_.interrupted = [this] { return program_ != nullptr && program_->gate.ended(); };
 }
 

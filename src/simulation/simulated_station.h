@@ -4,6 +4,7 @@
 // drive. The clock, the folders and the person who answers outlive the program, so that it can be started again after its
 // end or after a power cut.
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -42,6 +43,10 @@ class SimulatedStation {
 
   /// An event from outside, through the program's gate.
   void Do(const std::function<void()>& event);
+  /// Every random draw from here on is that of the seed.
+  void Seed(std::uint64_t seed) { random_ = EngineRandom(seed); }
+  /// How long the person looks at each box before it is answered; the timers go on.
+  std::chrono::milliseconds thinking{0};
   /// The open screen of that name, or none.
   Screen* FindScreen(std::string_view name);
 

@@ -72,12 +72,12 @@ TEST_F(Views, StateLamp_ShowsTheStateOfTheAirInAWord) {
     desktop::StateLamp lamp;
     lamp.Follow(screen);
     EXPECT_EQ(lamp.word().toStdString(), each.word);
-    station_.media().trouble = "NO SOUND OUTPUT - the sound card has gone.";
+    station_.media().output_trouble = "NO SOUND OUTPUT - the sound card has gone.";
     lamp.Follow(screen);
     EXPECT_EQ(lamp.word().toStdString(), "NO SOUND");
     EXPECT_EQ(lamp.second_line().toStdString(), each.state == AirState::kPlaying ? "" : each.word);
     EXPECT_EQ(lamp.grab().toImage().pixelColor(lamp.width() / 2, 2), QColor(0xd0, 0x12, 0x12));
-    station_.media().trouble.clear();
+    station_.media().output_trouble.clear();
     lamp.Leave();
   }
 }

@@ -26,6 +26,7 @@ class Scripts : public StationFixture {
     std::ostringstream out;
     std::ostringstream errors;
     script::ScriptRunner runner(station_, out, errors);
+    runner.AllowWorld();
     const int exit_code = runner.Run(script);
     return {exit_code, out.str(), errors.str()};
   }
@@ -160,6 +161,41 @@ TEST_F(Scripts, Failures_ExitWithOneOrTwoAndNameTheLine) {
     EXPECT_EQ(played.errors.substr(0, std::string(error).size()), error);
     EXPECT_EQ(std::count(played.errors.begin(), played.errors.end(), '\n'), 1) << played.errors;
   }
+}
+
+TEST_F(Scripts, World_ChangesTheFilesUnderTheStation) {
+  const struct {
+    const char *script, *file, *content;
+  } cases[] = {{"put C:\\NEW\\A.DTA \"\\\"1\\\"\" two", "NEW/A.DTA", "\"1\"\r\ntwo\r\n"},
+               {"tear c:\\new\\a.dta 2", "NEW/A.DTA", "\"1"},
+               {"away C:\\NEW", "NEW/A.DTA", ""},
+               {"back C:\\new", "NEW/A.DTA", "\"1"},
+               {"away C:\\NEW\\A.DTA\naway C:\nmend", "NEW/A.DTA", "\"1"},
+               {"remove C:\\NEW", "NEW/A.DTA", ""},
+               {"try remove C:\\NEW\ntry menu Exit\ntry click RandomForm1.Start", "NEW/A.DTA", ""}};
+  for (const auto& [script, file, content] : cases) {
+    const Played played = Play(script);
+    EXPECT_EQ(played.exit_code, 0) << played.errors;
+    EXPECT_EQ(FileText(file), content) << script;
+  }
+  std::istringstream own("put C:\\QXAIR\\RESET.DTA x");
+  std::ostringstream out, errors;
+  EXPECT_EQ(script::ScriptRunner(station_, out, errors).Run(own), 2) << "nobody's own station";
+}
+
+TEST_F(Scripts, World_MisbehavesUnderARun) {
+  AddLibrary(5, 2, 2, 60000);
+  const Played played = Play(
+      "start\nanswer-others OK\naudio C:\\QXWAVE\\M0001.WAV 2s\naway C:\\QXWAVE\nmenu RandomPlaybackMode\n"
+      "click RandomForm1.Start\nadvance 1s\nback C:\\QXWAVE\nadvance 1s\nfail append *.LOG 61\n"
+      "click RandomForm1.BeginNextCommand\nadvance 1s\nshow RandomForm1.Text3\nmend\nthink 90s\n"
+      "menu VerificationLog\nmenu Exit\nclock -1h\n");
+  EXPECT_EQ(played.exit_code, 0) << played.errors;
+  EXPECT_NE(played.out.find("wav 60000\n"), std::string::npos);
+  EXPECT_NE(played.out.find("DRIVE C FULL"), std::string::npos);
+  const std::size_t box = played.out.find("20:01:33.000 box 33");
+  ASSERT_NE(box, std::string::npos) << played.out;
+  EXPECT_NE(played.out.rfind("20:01:", box - 1), std::string::npos) << "items go on behind the box";
 }
 
 TEST_F(Scripts, PowerCut_RunIsTakenUpAgainAtTheNextStart) {

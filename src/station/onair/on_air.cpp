@@ -86,7 +86,8 @@ void OnAir::Guard(bool wanted, const std::function<void()>& begin_next) {
   begin_next();
   PauseNextPending = false;  // nobody is there to go on
   const AirItem* item = deck.item(deck.plays(2) ? 2 : 1);
-  if (item == nullptr && *silent >= 2 * AirGuard::kMostSilence) return;  // told once, and when it sounds again
+  if (item == nullptr && *silent >= 2 * AirGuard::kMostSilence)
+    return;  // told once, and when it sounds again
   const std::string row = "Silent for " + FixedDecimals(*silent, 0) + " seconds, went on with " +
                           (item == nullptr        ? "nothing yet"
                            : item->announcement() ? item->path
