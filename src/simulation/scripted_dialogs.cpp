@@ -47,7 +47,7 @@ Answer ScriptedDialogs::MessageBox(std::string_view text, int style, std::string
                .answer = {}};
   const std::vector<Answer> offered = Offered(style);
   Answer answer = offered.back();
-  const std::optional<std::string> wanted = TakeAnswer();
+  const std::optional<std::string> wanted = TakeAnswer(box);
   const auto match = std::find_if(offered.begin(), offered.end(), [&](Answer candidate) {
     return wanted && EqualsIgnoringCase(NameOf(candidate), *wanted);
   });
@@ -59,9 +59,16 @@ Answer ScriptedDialogs::MessageBox(std::string_view text, int style, std::string
   return answer;
 }
 
-std::optional<std::string> ScriptedDialogs::TakeAnswer() {
+std::optional<std::string> ScriptedDialogs::TakeAnswer(const ShownBox& box) {
   if (on_open) on_open();
-  if (answers_.empty()) return otherwise;
+  if (answers_.empty()) {
+    const auto same = [&box](const ShownBox& other) {
+      return other.title == box.title && other.text == box.text;
+    };
+    // A box that refuses what was typed may stand in between.
+    const auto from = shown_.end() - std::min<std::ptrdiff_t>(2, std::ssize(shown_));
+    return otherwise && std::any_of(from, shown_.end(), same) ? std::string() : otherwise;
+  }
   std::string answer = std::move(answers_.front());
   answers_.pop_front();
   return answer;
@@ -91,7 +98,7 @@ std::optional<RecordingFormat> ScriptedDialogs::FormatBox(const RecordingFormat&
 }
 
 std::string ScriptedDialogs::AnswerTyped(ShownBox box) {
-  const std::optional<std::string> answer = TakeAnswer();
+  const std::optional<std::string> answer = TakeAnswer(box);
   box.answer = answer.value_or(std::string());
   shown_.push_back(box);
   if (on_box) on_box(box);

@@ -34,7 +34,7 @@ class ScriptedDialogs : public Dialogs {
   void QueueAnswer(std::string answer) { answers_.push_back(std::move(answer)); }
   const std::vector<ShownBox>& shown() const { return shown_; }
 
-  /// The answer of boxes for which none is queued: no box is unexpected any more.
+  /// The answer of boxes for which none is queued: no box is unexpected any more. Who is asked the same again cancels.
   std::optional<std::string> otherwise;
 
   /// A box stands open and is about to be answered.
@@ -45,7 +45,7 @@ class ScriptedDialogs : public Dialogs {
   std::function<void(const ShownBox&)> on_unexpected;
 
  private:
-  std::optional<std::string> TakeAnswer();
+  std::optional<std::string> TakeAnswer(const ShownBox& box);
   std::string AnswerTyped(ShownBox box);
 
   std::deque<std::string> answers_;

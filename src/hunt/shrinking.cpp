@@ -1,0 +1,75 @@
+#include "hunt/shrinking.h"
+
+#include <algorithm>
+
+#include "script/script_language.h"
+
+namespace quixair::hunt {
+namespace {
+
+using SteadyClock = std::chrono::steady_clock;
+
+/// Without them a script would not play the same twice.
+bool MustStay(const std::string& statement) {
+  return statement.starts_with("clock \"") || statement.starts_with("seed ");
+}
+
+Script Without(const Script& script, std::size_t from, std::size_t count) {
+  Script rest;
+  for (std::size_t i = 0; i < script.size(); ++i) {
+    if (i < from || i >= from + count || MustStay(script[i])) rest.push_back(script[i]);
+  }
+  return rest;
+}
+
+bool IsWait(const std::string& statement) {
+  return statement.starts_with("advance ");
+}
+
+std::chrono::milliseconds WaitOf(const std::string& statement) {
+  return script::SpanOf(statement.substr(std::string("advance ").size()));
+}
+
+/// What passes between two acts is one statement.
+Script WithWaitsTogether(const Script& script) {
+  Script together;
+  for (const std::string& statement : script) {
+    if (IsWait(statement) && !together.empty() && IsWait(together.back())) {
+      const auto sum = WaitOf(together.back()) + WaitOf(statement);
+      together.back() = "advance " + std::to_string(sum.count()) + "ms";
+    } else {
+      together.push_back(statement);
+    }
+  }
+  return together;
+}
+
+}  // namespace
+
+Script Shrunk(Script script, const std::function<bool(const Script&)>& breaks, std::chrono::seconds most) {
+  const auto end = SteadyClock::now() + most;
+  const auto keep_if_breaking = [&](Script smaller) {
+    if (smaller.size() == script.size()) return false;
+    if (SteadyClock::now() > end || !breaks(smaller)) return false;
+    script = std::move(smaller);
+    return true;
+  };
+  bool smaller = true;
+  while (smaller && SteadyClock::now() < end) {
+    smaller = false;
+    for (std::size_t count = script.size() / 2; count >= 1; count /= 2) {
+      for (std::size_t from = 0; from < script.size();) {
+        if (keep_if_breaking(Without(script, from, count))) {
+          smaller = true;
+        } else {
+          from += count;
+        }
+      }
+    }
+    Script together = WithWaitsTogether(script);
+    if (together.size() < script.size()) smaller = keep_if_breaking(std::move(together)) || smaller;
+  }
+  return script;
+}
+
+}  // namespace quixair::hunt
