@@ -86,7 +86,7 @@ void QtDialogs::NoticeBox(std::string_view text, int style, std::string_view tit
   QMessageBox box(IconOf(style), ToQt(title), ToQt(text), QMessageBox::Ok, Over());
   box.setTextFormat(Qt::PlainText);
   QTimer second;
-  const auto count_down = [&box, &second, left = seconds]() mutable {
+  auto count_down = [&box, left = seconds]() mutable {
     box.button(QMessageBox::Ok)->setText(QStringLiteral("OK (%1)").arg(left));
     if (left-- == 0) box.accept();
   };

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "station/console/logs.h"
 #include "station/console/settings_files.h"
 #include "station/console/station_paths.h"
 #include "station/library/item_resolution.h"
+#include "station/library/proof_log.h"
 #include "station/library/recording.h"
 #include "station/platform/text.h"
 #include "station/screen/screen.h"

@@ -172,13 +172,19 @@ TEST_F(MainFrameTest, AccessKeyOfTwoButtons_GoesBetweenThemAndPressesNeither) {
   EXPECT_FALSE(Find<TextBox>("RecordSpot", "Text3").enabled()) << "Enter presses the one in focus";
 }
 
-TEST_F(OnAirWindow, ControlsThatGoAtAKey_LeaveTheFocusOnContinue) {
+TEST_F(OnAirWindow, ControlsThatGoAtAKey_LeaveTheFocusWhereItHarmsNothing) {
   frame_->activateWindow();
-  for (const auto& [key, button] : {std::pair(Qt::Key_S, "Start"), {Qt::Key_B, "BeginNextCommand"}}) {
+  struct {
+    Qt::Key key;
+    const char *button, *left_on;
+  } const acts[] = {{Qt::Key_S, "Start", "ContinueCommand"},
+                    {Qt::Key_B, "BeginNextCommand", "BeginNextCommand"},
+                    {Qt::Key_P, "PauseCommand", "ContinueCommand"}};
+  for (const auto& [key, button, left_on] : acts) {
     Widget<QPushButton>("RandomForm1", button).setFocus();
     QTest::keyClick(QApplication::focusWidget(), key, Qt::AltModifier);
     Rest();
-    EXPECT_EQ(QApplication::focusWidget(), &Widget<QPushButton>("RandomForm1", "ContinueCommand")) << button;
+    EXPECT_EQ(QApplication::focusWidget(), &Widget<QPushButton>("RandomForm1", left_on)) << button;
   }
   EXPECT_EQ(aired().size(), 2U);
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);

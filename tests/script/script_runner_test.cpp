@@ -97,11 +97,12 @@ TEST_F(Scripts, OnTheAir_ChannelsAreTraced) {
 TEST_F(Scripts, ProgramEnded_NothingSoundsAndTimeGoesOn) {
   AddLibrary(3, 2, 2, 30000);
   const Played played = Play(
-      "start\nmenu RandomPlaybackMode\nclick RandomForm1.Start\nadvance 5s\nclose Console\nadvance "
+      "start\nmenu RandomPlaybackMode\nclick RandomForm1.Start\nadvance 5s\nanswer Yes\nclose "
+      "Console\nadvance "
       "1m\nstart\n");
   EXPECT_EQ(played.exit_code, 0) << played.errors;
   const std::string expected =
-      "2026-11-22 20:00:05.000 end 0\n2026-11-22 20:01:05.000 screen Console open\n"
+      "-> Yes\n2026-11-22 20:00:05.000 end 0\n2026-11-22 20:01:05.000 screen Console open\n"
       "2026-11-22 20:01:05.000 screen frmSplash open\n";
   EXPECT_TRUE(played.out.ends_with(expected)) << played.out;
 }
@@ -203,7 +204,7 @@ TEST_F(Scripts, PowerCut_RunIsTakenUpAgainAtTheNextStart) {
   PutFile("QXAIR/RESETON.DTA", "\"1\"\r\n");
   const Played played = Play(
       "start\nmenu RandomPlaybackMode\nclick RandomForm1.Start\nadvance 20s\npowercut\nstart\nadvance 3s\n"
-      "expect Console \"Quixair 4   \"\nshow RandomForm1.Text1\nclose Console\n");
+      "expect Console \"Quixair 4   \"\nshow RandomForm1.Text1\nanswer Yes\nclose Console\n");
   EXPECT_EQ(played.exit_code, 0) << played.errors;
   const std::size_t again = played.out.rfind("screen RandomForm1 open");
   EXPECT_NE(again, played.out.find("screen RandomForm1 open"))
@@ -216,7 +217,7 @@ TEST_F(Scripts, PowerCut_RunIsTakenUpAgainAtTheNextStart) {
 TEST_F(Scripts, SameSeed_GivesTheSameDay) {
   AddLibrary(8, 4, 2, 5000);
   const std::string day =
-      "start\nmenu RandomPlaybackMode\nclick RandomForm1.Start\nadvance 10m\nclose Console\n";
+      "start\nmenu RandomPlaybackMode\nclick RandomForm1.Start\nadvance 10m\nanswer Yes\nclose Console\n";
   const auto air = [&] {
     simulation::SimulatedStation station(
         station_.drives(), script::MomentOf("2026-11-22 20:00:00"),

@@ -52,9 +52,10 @@ void RunControls::BeginNext() {
   if (live_over) return;  // its end has started the next item
   deck.EndAll(EndCause::kSkipped);
   deck.OverlapActive = false;
+  engine_.PlayNextItem();
+  if (deck.AnythingSounds() || deck.AudioPaused()) return;
   screen.Run.RequeueCommand.Disable();  // until an item is heard
   screen.Run.BeginNextCommand.Disable();
-  engine_.PlayNextItem();
 }
 
 void RunControls::Requeue() {
