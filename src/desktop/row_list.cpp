@@ -65,7 +65,10 @@ QVariant ListRows::data(const QModelIndex& index, int role) const {
   // The control may hold fewer rows already; the reset that shows it is on its way.
   if (source_ == nullptr || index.row() >= source_->row_count()) return {};
   const std::string& row = source_->row(index.row());
-  return Shown(ToQt(row), look_of ? look_of(row) : RowLook(), role);
+  const QString text = ToQt(row);
+  const std::string& hint = source_->hint();
+  if (role == Qt::ToolTipRole && !hint.empty()) return QVariant(text + QLatin1Char('\n') + ToQt(hint));
+  return Shown(text, look_of ? look_of(row) : RowLook(), role);
 }
 
 std::vector<std::string> ListRows::rows() const {

@@ -1,5 +1,7 @@
 #include "station/templates/build_template1.h"
 
+#include <chrono>
+
 #include "station/console/settings_files.h"
 #include "station/console/station_paths.h"
 #include "station/platform/dialogs.h"
@@ -21,6 +23,7 @@ constexpr std::array<const char*, 4> kTitles = {"Pick-List Playback Select", "Pi
                                                 "Simple-Sat Playback Select",
                                                 "Random Spot/PSA Rotation File"};
 constexpr int kFewest = 2;
+constexpr std::chrono::milliseconds kAtOnce{1};
 
 /// How the operator reads of a kind that has too few recordings.
 struct KindInWords {
@@ -44,6 +47,7 @@ BuildTemplate1::BuildTemplate1(const Platform& platform)
     : EventListScreen(platform, kKind), editor_(std::make_unique<TemplateEditor>(*this)) {
   Frame1.Hide();
   Frame2.Hide();
+  HandOverTimer.on_tick = [this] { TakeHandOver(); };
 }
 
 BuildTemplate1::~BuildTemplate1() = default;
@@ -61,6 +65,21 @@ void BuildTemplate1::Load() {
 Control& BuildTemplate1::RestingPlace() {
   if (editor_->assists() && Text8.visible()) return Text8;
   return EventListScreen::RestingPlace();
+}
+
+void BuildTemplate1::PrepareAgain(const ScreenOpening&) {
+  SetRestingFocus();
+  HandOverTimer.SetInterval(kAtOnce);
+  HandOverTimer.SetEnabled(true);
+}
+
+/// What is worked on is left as by Quit, and the screen comes anew.
+void BuildTemplate1::TakeHandOver() {
+  HandOverTimer.SetEnabled(false);
+  if (editor_->IsHandedOver() || !editor_->MayBeLeft()) return;
+  Screens& screens = platform_.screens;
+  Unload();
+  screens.Open(kKind.screen);
 }
 
 void BuildTemplate1::CloseWindow() {

@@ -19,8 +19,11 @@ class BuildTemplate1 : public EventListScreen {
   explicit BuildTemplate1(const Platform& platform);
   ~BuildTemplate1() override;
   void Load() override;
-  void PrepareAgain(const ScreenOpening&) override { SetRestingFocus(); }
+  /// A new hand-over is taken in an event of its own, since the operator may be asked first.
+  void PrepareAgain(const ScreenOpening& opening) override;
   void CloseWindow() override;
+
+  Timer HandOverTimer{*this, "HandOverTimer"};
 
   // operations
   Button Command1{*this, "Command1", "Sa&ve "};
@@ -63,6 +66,7 @@ class BuildTemplate1 : public EventListScreen {
   /// False when a kind has too few recordings to begin with; each such kind has been told.
   bool LibraryIsLargeEnough();
   void SetUpMode();
+  void TakeHandOver();
 
   std::unique_ptr<TemplateEditor> editor_;
 };

@@ -27,6 +27,10 @@ class TemplateEditor : public EventListEditor {
   /// Loading has come to its end: from now on quitting asks.
   void SetLoaded() { loaded_ = true; }
 
+  /// Whether what the hand-over files name is what is worked on.
+  bool IsHandedOver() const;
+  /// Asks what is to become of work that is not saved, or not played.
+  bool MayBeLeft();
   void Quit() override;
 
  private:
@@ -57,7 +61,8 @@ class TemplateEditor : public EventListEditor {
   void AddTemplateEvent(const TemplateEvent& event);
   void TellMissingData(const std::string& id);
   void SaveOrPlay();
-  void Save();
+  bool SavedOrGivenUp();
+  bool Save();
   void Play();
 
   BuildTemplate1& screen_;
@@ -73,6 +78,7 @@ class TemplateEditor : public EventListEditor {
   int QuitAfterSave = 0;
   int PlayMode = 0;
   bool assists_ = false;
+  int pik_mode_ = 0;
   bool loaded_ = false;
 };
 

@@ -24,6 +24,7 @@ void TemplateEditor::SetMode(int pik_mode) {
   constexpr int kSimpleSat = 2;
   constexpr int kRotation = 3;
   constexpr int kAssist = 4;
+  pik_mode_ = pik_mode;
   assists_ = pik_mode == kAssist;
   PlayMode = pik_mode == kImmediate || pik_mode == kAssist ? 1 : 0;
   screen_.Command1.SetCaption(PlayMode == 1 ? "&Play" : "&Save");
@@ -133,10 +134,10 @@ void TemplateEditor::SaveOrPlay() {
   }
 }
 
-void TemplateEditor::Save() {
+bool TemplateEditor::Save() {
   if (Inserting == 1) {
     Warn("Can't Save while Inserting", "Can't Save until you replace the >>OPEN<< event ");
-    return;
+    return false;
   }
   const Platform& platform = screen_.platform();
   if (QuitAfterSave != 1) {
@@ -150,10 +151,10 @@ void TemplateEditor::Save() {
   if (!written.ok()) {
     QuitAfterSave = 0;
     TellFileFault(platform.dialogs, written, "The template was not saved; it is still on this screen.");
-    return;
+    return false;
   }
   Changed = 0;
-  if (QuitAfterSave == 1) platform.screens.Unload(screen_);
+  return true;
 }
 
 void TemplateEditor::Play() {
@@ -172,26 +173,43 @@ void TemplateEditor::Play() {
   platform.screens.Unload(screen_);
 }
 
-void TemplateEditor::Quit() {
-  const Platform& platform = screen_.platform();
-  if (loaded_ && PlayMode == 0) {
-    if (Inserting == 1) {
-      Warn("Can't Quit while Inserting", "Can't Quit until you replace the >>OPEN<< event ");
-      return;
-    }
-    if (Changed == 1) {
-      const Answer answer = platform.dialogs.MessageBox(
-          "Do you want to save changes before exiting?\nChoose NO to exit without saving.",
-          box_style::kYesNoCancel + box_style::kQuestion, "Save Changes?");
-      if (answer == Answer::kCancel) return;
-      if (answer == Answer::kYes) {
-        QuitAfterSave = 1;
-        Save();
-        return;
-      }
-    }
+bool TemplateEditor::IsHandedOver() const {
+  Files& files = screen_.platform().files;
+  if (ReadNumberSetting(files, station_paths::kPikMode) != pik_mode_) return false;
+  return PlayMode == 1 ||
+         EqualsIgnoringCase(ReadSetting(files, station_paths::kPikName).value_or(std::string()),
+                            TemplateName);
+}
+
+bool TemplateEditor::MayBeLeft() {
+  if (!loaded_) return true;
+  Dialogs& dialogs = screen_.platform().dialogs;
+  if (PlayMode == 1) {
+    return entries_.EntryCount() == 0 ||
+           dialogs.MessageBox("The list on this screen has not been played.\nDo you want to give it up?",
+                              box_style::kYesNo + box_style::kQuestion, "List Not Played") == Answer::kYes;
   }
-  platform.screens.Unload(screen_);
+  return SavedOrGivenUp();
+}
+
+/// The operator's word on changes that are not saved; false keeps the screen.
+bool TemplateEditor::SavedOrGivenUp() {
+  if (Inserting == 1) {
+    Warn("Can't Quit while Inserting", "Can't Quit until you replace the >>OPEN<< event ");
+    return false;
+  }
+  if (Changed == 0) return true;
+  const Answer answer = screen_.platform().dialogs.MessageBox(
+      "Do you want to save changes before exiting?\nChoose NO to exit without saving.",
+      box_style::kYesNoCancel + box_style::kQuestion, "Save Changes?");
+  if (answer != Answer::kYes) return answer == Answer::kNo;
+  QuitAfterSave = 1;
+  return Save();
+}
+
+void TemplateEditor::Quit() {
+  if (loaded_ && PlayMode == 0 && !SavedOrGivenUp()) return;
+  screen_.platform().screens.Unload(screen_);
 }
 
 }  // namespace quixair

@@ -262,6 +262,38 @@ TEST_F(TemplateEditorScreen, QuitAfterAdding_AsksAndObeys) {
   }
 }
 
+TEST_F(TemplateEditorScreen, AnotherTemplateChosenWhileOpen_IsTakenAfterTheQuestion) {
+  const auto choose = [this](const char* name) {
+    Menu("EditTemplate");
+    Select("BuildTemplate", "File1", name).DoubleClick();
+    Advance(1s);
+  };
+  PutTemplate("B.TPP", {"M0003"});
+  OpenWith({"M0001"});
+  Add("List3", "S1");
+  choose("A.TPP");
+  EXPECT_EQ(Ids(), "M0001 S1 ") << "it is that one already";
+  for (const char* answer : {"Cancel", "No"}) {
+    QueueAnswer(answer);
+    choose("B.TPP");
+    EXPECT_EQ(boxes().back().title, "Save Changes?");
+    EXPECT_EQ(Ids(), answer == std::string_view("No") ? "M0003 " : "M0001 S1 ");
+  }
+  EXPECT_EQ(Shown(kEditor, "Label2"), "Template in Use: B.TPP");
+  Add("List3", "S2");
+  QueueAnswer("Yes");
+  Menu("ImmediatePickList");
+  Advance(1s);
+  EXPECT_EQ(FileText("QXTEMPLT/B.TPP"),
+            "\"M0003\",\"Title of M0003\"\r\n\"S2\",\"Spot S2\"\r\n\"\",\"\"\r\n");
+  EXPECT_EQ(Shown(kEditor, "Command1"), "&Play");
+  Add("List3", "S1");
+  QueueAnswer("No");
+  choose("A.TPP");
+  EXPECT_EQ(boxes().back().title, "List Not Played");
+  EXPECT_EQ(Ids(), "S1 ");
+}
+
 TEST_F(TemplateEditorScreen, LocalBreaks_AreComposedAndKeepTheirTwoForms) {
   OpenWith({"S1", "S2"}, "2");
   Click(kEditor, "localbreak");
