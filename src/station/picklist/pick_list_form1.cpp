@@ -28,6 +28,10 @@ void PickListForm1::Load() {
   playback_->Activate();
 }
 
+void PickListForm1::PrepareAgain(const ScreenOpening&) {
+  playback_->LoadAnew();
+}
+
 bool PickListForm1::OnTheAir() const {
   return playback_->running();
 }

@@ -96,6 +96,14 @@ bool PickListPlayback::Activate() {
   return true;
 }
 
+void PickListPlayback::LoadAnew() {
+  if (status().state != AirState::kReady) return;
+  context_.run.ScreenActivated = false;
+  context_.run.FirstEvent = 0;
+  context_.screen.Label7.SetCaption({});
+  Activate();
+}
+
 void PickListPlayback::TakeRestartRecord() {
   PickListRun& run = context_.run;
   if (!context_.platform.files.Exists(station_paths::kReset)) return;

@@ -292,6 +292,13 @@ TEST_F(TemplateEditorScreen, AnotherTemplateChosenWhileOpen_IsTakenAfterTheQuest
   choose("A.TPP");
   EXPECT_EQ(boxes().back().title, "List Not Played");
   EXPECT_EQ(Ids(), "S1 ");
+  Click(kEditor, "Command1");
+  EXPECT_EQ(Rows("PickListForm1", "List1"), std::vector<std::string>{"1 S1 Spot S1"}) << "and no template";
+  Menu("ImmediatePickList");
+  Add("List3", "S2");
+  Add("List3", "S3");
+  Click(kEditor, "Command1");
+  EXPECT_EQ(Rows("PickListForm1", "List1").size(), 2U) << "a screen that waits for Start takes the new list";
 }
 
 TEST_F(TemplateEditorScreen, LocalBreaks_AreComposedAndKeepTheirTwoForms) {
