@@ -1,5 +1,6 @@
 #include "desktop/session_entry.h"
 
+#include <QFile>
 #include <QSaveFile>
 #include <system_error>
 
@@ -7,6 +8,13 @@ namespace quixair::desktop {
 namespace {
 
 constexpr const char* kFileName = "quixair.desktop";
+/// What an entry begins with, by which the program knows its own, wherever it lay when it wrote it.
+const std::string kHead =
+    "[Desktop Entry]\n"
+    "Type=Application\n"
+    "Name=Quixair\n"
+    "Comment=Puts the station back on the air when the desktop session starts\n"
+    "Exec=";
 
 /// One argument of a command, between double quotes: there a backslash stands before the four characters that
 /// keep a meaning, and a percent sign is doubled, since a single one begins a field.
@@ -61,14 +69,7 @@ RunTimeError FaultOf(const QSaveFile& file) {
 
 std::optional<std::string> SessionEntryText(std::string_view program) {
   if (!program.starts_with('/') || program.find('=') != std::string_view::npos) return std::nullopt;
-  return "[Desktop Entry]\n"
-         "Type=Application\n"
-         "Name=Quixair\n"
-         "Comment=Puts the station back on the air when the desktop session starts\n"
-         "Exec=" +
-         Value(Argument(program)) +
-         "\n"
-         "Terminal=false\n";
+  return kHead + Value(Argument(program)) + "\nTerminal=false\n";
 }
 
 Status SessionEntry::SetStartsWithSession(bool starts) {
@@ -88,6 +89,11 @@ Status SessionEntry::Write() {
 }
 
 Status SessionEntry::Remove() {
+  QFile file(QString::fromStdString((folder_ / kFileName).string()));
+  const bool of_somebody_else =
+      file.open(QIODevice::ReadOnly) &&
+      file.read(static_cast<qint64>(kHead.size())) != QByteArray::fromStdString(kHead);
+  if (of_somebody_else) return {};
   std::error_code fault;
   std::filesystem::remove(folder_ / kFileName, fault);
   const bool gone = !fault || fault == std::errc::not_a_directory;

@@ -22,7 +22,7 @@ class SessionEntry : public SessionStart {
   SessionEntry(std::filesystem::path autostart_folder, std::string program)
       : folder_(std::move(autostart_folder)), program_(std::move(program)) {}
 
-  /// Missing folders are made. 52 a path that no entry can name, 61 disk full, 70 or 75 not allowed.
+  /// Missing folders are made. An entry that somebody else wrote is taken over, but never removed. 52 a path that no entry can name, 61 disk full, 70 or 75 not allowed.
   Status SetStartsWithSession(bool starts) override;
 
  private:

@@ -63,6 +63,18 @@ TEST_F(SessionEntryFile, SetAgainAndUnset_TouchNothingButTheFile) {
   EXPECT_EQ(NamesInFolder(), std::vector<std::string>{"clock.desktop"});
 }
 
+TEST_F(SessionEntryFile, UnsetBesideAnEntryOfSomebodyElse_LeavesIt) {
+  const std::string own =
+      "[Desktop Entry]\nType=Application\nName=Quixair\nExec=/home/on air/with_my_mixer\n";
+  WriteHostFile(file_, own);
+  EXPECT_TRUE(entry_.SetStartsWithSession(false).ok());
+  EXPECT_EQ(ReadHostFile(file_), own);
+  desktop::SessionEntry moved(folder_, "/opt/moved/quixair");
+  ASSERT_TRUE(moved.SetStartsWithSession(true).ok());
+  EXPECT_TRUE(entry_.SetStartsWithSession(false).ok());
+  EXPECT_FALSE(fs::exists(file_)) << "the program wrote it where it was before";
+}
+
 TEST_F(SessionEntryFile, UnsetWithoutAFile_IsNoFaultAndMakesNothing) {
   EXPECT_TRUE(entry_.SetStartsWithSession(false).ok());
   EXPECT_FALSE(fs::exists(folder_));
