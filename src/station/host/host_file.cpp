@@ -23,8 +23,8 @@ RunTimeError FromErrno(int error) {
       return RunTimeError::kDiskFull;
     case EACCES:
     case EPERM:
-      return RunTimeError::kPermissionDenied;
     case EROFS:
+      return RunTimeError::kPermissionDenied;
     case EISDIR:
     case EEXIST:
     case ENOTEMPTY:

@@ -13,7 +13,8 @@ constexpr const char* kHint =
 constexpr const char* kAsk =
     "Enter New ID (Do not enter file extension), then 'OK'...\n"
     "[Filename should not exceed 8 digits if DOS playback is desired.]";
-constexpr std::string_view kRefused = ",/\\#%^*;|";
+/// A double quote would end the name in the file that hands it over, and its template would be found by nobody.
+constexpr std::string_view kRefused = ",/\\#%^*;|\"";
 constexpr int kExtensionBoxStyle = 160;  // the box has always had this style
 
 /// What a name may not hold comes in a box of its own for either kind; the first such character decides.

@@ -40,7 +40,9 @@ void ExportTemplate::Prepare(const ScreenOpening& opening) {
 
 void ExportTemplate::FolderChanged() {
   destination_chosen_ = true;
-  Text1.SetText(Dir1.path() + " is the export destination. Press <Export Now> to continue");
+  Text1.SetText(
+      Dir1.path() + " is the export destination. " +
+      (ExportNow.enabled() ? "Press <Export Now> to continue" : "Now, select an existing file to send"));
 }
 
 void ExportTemplate::Export() {

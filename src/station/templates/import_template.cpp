@@ -1,5 +1,6 @@
 #include "station/console/station_paths.h"
 #include "station/platform/dialogs.h"
+#include "station/platform/files.h"
 #include "station/templates/transfer_template.h"
 
 namespace quixair {
@@ -58,7 +59,9 @@ void ImportTemplate::Import() {
 void ImportTemplate::TellFault(const Status& fault) {
   Text1.SetText("Problem encountered copying " + File3.selected_text() + " to " + Dir1.path());
   Dialogs& dialogs = platform_.dialogs;
-  switch (fault.error()) {
+  const bool no_template_folder = !platform_.files.ListFolders(station_paths::kTemplateFolder).ok();
+  switch (no_template_folder && fault.error() == RunTimeError::kPathNotFound ? RunTimeError::kPathFileAccess
+                                                                             : fault.error()) {
     case RunTimeError::kDiskNotReady:
       return TellDriveMissing(dialogs, Dir1.drive());
     case RunTimeError::kPermissionDenied:

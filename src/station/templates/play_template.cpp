@@ -19,6 +19,8 @@ constexpr PlayTemplateFamily kSimpleSat = {"SatPlayTemplate", "Simple-Sat Playba
 
 PlayTemplate::PlayTemplate(const Platform& platform, const PlayTemplateFamily& family)
     : Screen(platform, family.screen, family.title), family_(family) {
+  File1.SetHint("All Custom Templates");
+  File2.SetHint("Daily Templates");
   choice_.on_choose = [this](const ChosenTemplate& chosen) { Choose(chosen); };
   Refresh.on_click = [this] { List(); };
   Quit.on_click = [this] { Unload(); };

@@ -60,9 +60,9 @@ Status RemoveSatSpot::Rewrite(const std::string& name) {
   const std::vector<TemplateEvent> records =
       OrEndProgram(WholeTemplate(content.value(), [&](const TemplateEvent& event) {
         const bool spot = UpperCased(event.EventId.front()) == 'S';
-        Text1.SetText(TextOf(kept + 1, event));  // a spot shows too, at the place that the next one takes
-        Repaint();
         if (!spot) ++kept;
+        Text1.SetText(TextOf(kept, event));  // a spot shows too, under the number before
+        Repaint();
         return !spot;
       }));
   return platform_.files.Write(path, FormatRecords(records), Durability::kFlushed);

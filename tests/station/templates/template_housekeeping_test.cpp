@@ -42,6 +42,11 @@ TEST_F(TemplateHousekeeping, Export_CopiesToTheFolderChosen) {
   std::filesystem::create_directories(Host("BACKUP"));
   StartAt("BackupPickList");
   EXPECT_EQ(Shown(kExport, "Text1"), "First, select an existing file to send to another drive or directory.");
+  GoInto(kExport, "QXTEMPLT");
+  EXPECT_EQ(Shown(kExport, "Text1"),
+            "C:\\QXTEMPLT is the export destination. Now, select an existing file to send")
+      << "the button waits for a file";
+  Menu("BackupPickList");
   Select(kExport, "File1", "GALA.TPP");
   EXPECT_EQ(Shown(kExport, "Text1"), "Now, choose a drive and path to send the selected file to...");
   GoInto(kExport, "BACKUP");
@@ -160,6 +165,8 @@ TEST_F(TemplateHousekeeping, ImportFaults_AreToldByNumber) {
        " - or - you are trying to write the same file over itself."},
       {"BACKUP", RunTimeError::kPathFileAccess, "Path/File Access Error",
        "Make sure the QXTEMPLT directory exists."},
+      {"BACKUP", RunTimeError::kPathNotFound, "Unexpected ERROR = 76",  // the source's folder is gone
+       "and try to import again if necessary."},
       {"BACKUP", RunTimeError::kDiskFull, "Unexpected ERROR = 61", "and try to import again if necessary."}};
   for (const auto& [folder, fault, title, last_line] : cases) {
     SCOPED_TRACE(title);
@@ -174,7 +181,11 @@ TEST_F(TemplateHousekeeping, ImportFaults_AreToldByNumber) {
     EXPECT_EQ(text.substr(text.find('\n') + 1), last_line);
     EXPECT_EQ(Shown(kImport, "Text1"), "Problem encountered copying GALA.TPP to C:\\" + std::string(folder));
     EXPECT_TRUE(IsOpen(kImport));
+    station_.files().Mend();
   }
+  std::filesystem::remove_all(Host("QXTEMPLT"));
+  Press(kImport, "ImportNow", {"OK", "OK"});
+  EXPECT_EQ(boxes().back().title, "Path/File Access Error") << "the folder of the templates is gone";
 }
 
 TEST_F(TemplateHousekeeping, EraseCustom_OffersItsFamilyAndAsks) {

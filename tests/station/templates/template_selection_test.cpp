@@ -78,9 +78,9 @@ TEST_F(TemplateSelection, Build_NewNamesThatAreRefused_AreToldAndAskedForAgain) 
   constexpr const char* kPeriod = "No Extensions Allowed";
   constexpr const char* kBad = "Bad Character in Filename";
   const std::pair<const char*, const char*> cases[] = {
-      {"A.TPP", kPeriod}, {".,", kPeriod}, {"a,.", kBad},          {"a/b", kBad}, {"a\\b", kBad},
-      {"a#", kBad},       {"%a", kBad},    {"a^", kBad},           {"a*b", kBad}, {"a;b", kBad},
-      {"a|b", kBad},      {"a,b", kBad},   {"   ", "No File Name"}};
+      {"A.TPP", kPeriod}, {".,", kPeriod}, {"a,.", kBad},  {"a/b", kBad},          {"a\\b", kBad},
+      {"a#", kBad},       {"%a", kBad},    {"a^", kBad},   {"a*b", kBad},          {"a;b", kBad},
+      {"a|b", kBad},      {"a,b", kBad},   {"a\"b", kBad}, {"   ", "No File Name"}};
   StartAt("EditTemplate");
   for (const auto& [typed, title] : cases) {
     SCOPED_TRACE(typed);
@@ -123,6 +123,8 @@ TEST_F(TemplateSelection, PickPlay_HandsOverTheNameAndOpensPlayback) {
   StartAt("RunTemplate");
   EXPECT_EQ(Rows(kPick, "File1"), std::vector<std::string>{"GALA.TPP"});
   EXPECT_EQ(Rows(kPick, "File2"), std::vector<std::string>{"MON.TPT"});
+  EXPECT_EQ(Find<FileListBox>(kPick, "File1").hint(), "All Custom Templates");
+  EXPECT_EQ(Find<FileListBox>(kPick, "File2").hint(), "Daily Templates");
   EXPECT_EQ(Shown(kPick, "Text1"), kPlayHint);
   EXPECT_FALSE(DoneEnabled(kPick));
   Select(kPick, "File2", "MON.TPT");
