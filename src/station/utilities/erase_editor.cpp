@@ -118,7 +118,6 @@ void EraseEditor::BeginAnew() {
   CutArmed = 0;
   current_folder_ = station_paths::kDataFolder;
   for (ListBox* list : {&screen_.List1, &screen_.List2, &screen_.List3, &screen_.List4}) list->Clear();
-  for (Button* button : {&screen_.Command10, &screen_.Command11, &screen_.Command12}) button->Enable();
   screen_.List1.Enable();
   screen_.Text1.SetText("");
   screen_.Text2.SetText("Done..");

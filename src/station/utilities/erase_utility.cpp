@@ -39,6 +39,7 @@ void EraseUtility::PrepareAgain(const ScreenOpening&) {
 
 void EraseUtility::Reopen() {
   ListLibrary();
+  ShowLibrary(shown_library());
   StartLoading();
 }
 

@@ -26,7 +26,7 @@ class EraseUtility : public EventListScreen {
   Button Command2{*this, "Command2", "Clear &List"};
   CheckBox Check1{*this, "Check1", "&Ask Before Deleting Each File"};
 
-  /// Reads the library anew, as it is after an erasure.
+  /// Reads the library anew, as it is after an erasure; the kind that was shown is shown again.
   void Reopen();
 
  protected:

@@ -9,13 +9,14 @@ using As = PrintedColumn::As;
 using enum Field;
 
 constexpr int kNumberTwips = 750;
+constexpr int kFileNameTwips = 1000;
+constexpr std::size_t kFirstShown = kFileNameColumn + 1;
 
 const LibraryReport kSpots = {
     .kind = RecordingKind::kSpot,
     .singular = "Spot",
     .plural = "Spots",
-    .shown = {{"Filename", 1000, kRecordingId},
-              {"Account", 1500, kAccount},
+    .shown = {{"Account", 1500, kAccount},
               {"Title", 1500, kTitle},
               {"Length", 900, kLength},
               {"Start Date", 900, kStartDate},
@@ -31,7 +32,7 @@ const LibraryReport kSpots = {
     .printed = {{{6}, 1},
                 {{13, Fit::kLabel}, 2},
                 {{29, Fit::kLabel}, 3},
-                {{45, Fit::kLength}, 4},
+                {{45, Fit::kRoom}, 4},
                 {{51}, 4, As::kMinutes},
                 {{57}, 5},
                 {{66}, 6},
@@ -43,8 +44,7 @@ const LibraryReport kMusic = {
     .kind = RecordingKind::kMusic,
     .singular = "Music",
     .plural = "Music",
-    .shown = {{"Filename", 1000, kRecordingId},
-              {"Artist", 2000, kArtist},
+    .shown = {{"Artist", 2000, kArtist},
               {"Title", 2000, kTitle},
               {"Length", 900, kLength},
               {"Start Date", 900, kStartDate},
@@ -59,7 +59,7 @@ const LibraryReport kMusic = {
     .printed = {{{7}, 1},
                 {{14, Fit::kLabel}, 2},
                 {{32, Fit::kLabel}, 3},
-                {{50, Fit::kLength}, 4},
+                {{50, Fit::kRoom}, 4},
                 {{57}, 4, As::kMinutes},
                 {{64}, 5},
                 {{73}, 6},
@@ -69,8 +69,7 @@ const LibraryReport kLiners = {
     .kind = RecordingKind::kLiner,
     .singular = "Liner",
     .plural = "Liners",
-    .shown = {{"Filename", 1000, kRecordingId},
-              {"Title", 2000, kTitle},
+    .shown = {{"Title", 2000, kTitle},
               {"Announcer", 1000, kAnnouncer},
               {"Type", 500, kLinerType},
               {"Length", 900, kLength},
@@ -86,7 +85,7 @@ const LibraryReport kLiners = {
                 {{13, Fit::kLabel}, 2},
                 {{34}, 3},
                 {{37}, 4},
-                {{40, Fit::kLength}, 5},
+                {{40, Fit::kRoom}, 5},
                 {{46}, 5, As::kMinutes},
                 {{54}, 6},
                 {{64}, 7},
@@ -99,9 +98,9 @@ std::vector<std::string> HeadOf(const LibraryReport& report, const std::string& 
 }
 
 std::vector<TabbedText> EntryOf(const LibraryReport& report, const GridRow& row) {
-  const auto shown_end = row.begin() + static_cast<std::ptrdiff_t>(report.shown.size()) + 1;
-  const bool empty =
-      std::all_of(row.begin() + 1, shown_end, [](const std::string& cell) { return cell.empty(); });
+  const auto first = row.begin() + static_cast<std::ptrdiff_t>(kFirstShown);
+  const bool empty = std::all_of(first, first + static_cast<std::ptrdiff_t>(report.shown.size()),
+                                 [](const std::string& cell) { return cell.empty(); });
   std::vector<TabbedText> texts = {{1, row[kNumberColumn]}};
   if (empty) return texts;
   std::vector<ReportColumn> columns;
@@ -124,18 +123,20 @@ const LibraryReport& LibraryReportOf(RecordingKind kind) {
 std::vector<GridColumn> GridColumnsOf(const LibraryReport& report) {
   std::vector<GridColumn> columns(kGridColumns);
   columns[kNumberColumn].pixels = PixelsFromTwips(kNumberTwips);
+  columns[kFileNameColumn] = {"Filename", PixelsFromTwips(kFileNameTwips)};
   for (std::size_t i = 0; i < report.shown.size(); ++i) {
-    columns[i + 1] = {report.shown[i].head, PixelsFromTwips(report.shown[i].twips)};
+    columns[kFirstShown + i] = {report.shown[i].head, PixelsFromTwips(report.shown[i].twips)};
   }
   return columns;
 }
 
 GridRow LibraryRow(const LibraryReport& report, Files& files, const std::string& id) {
   GridRow row(kGridColumns);
-  row[kFileNameKey] = id;
+  row[kFileNameColumn] = row[kFileNameKey] = id;
   Recording recording(id);
   if (!recording.Read(files).ok()) return row;
-  for (std::size_t i = 0; i < report.shown.size(); ++i) row[i + 1] = recording.value(report.shown[i].field);
+  for (std::size_t i = 0; i < report.shown.size(); ++i)
+    row[kFirstShown + i] = recording.value(report.shown[i].field);
   row[kNameKey] = recording.value(report.name_field);
   row[kTitleKey] = recording.value(report.title_field);
   return row;

@@ -16,6 +16,7 @@
 namespace quixair {
 
 inline constexpr std::size_t kNumberColumn = 0;
+inline constexpr std::size_t kFileNameColumn = 1;  // the file's own name, whatever id it holds
 inline constexpr std::size_t kFileNameKey = 10;
 inline constexpr std::size_t kNameKey = 11;  // account of a spot, artist of a song, announcer of a liner
 inline constexpr std::size_t kTitleKey = 12;
@@ -31,7 +32,7 @@ struct PrintedColumn {
 struct LibraryReport {
   RecordingKind kind;
   const char *singular, *plural;  // "Spot", "Spots"
-  /// Shown from the grid's column 1 on.
+  /// Shown behind the file name.
   struct Shown {
     const char* head;
     int twips;
@@ -48,7 +49,7 @@ const LibraryReport& LibraryReportOf(RecordingKind kind);
 /// Thirteen columns; those without a head are hidden.
 std::vector<GridColumn> GridColumnsOf(const LibraryReport& report);
 
-/// The row of a data file. One that cannot be read in full leaves it empty, but for its name among the keys.
+/// The row of a data file. One that cannot be read in full leaves it empty, but for its name.
 GridRow LibraryRow(const LibraryReport& report, Files& files, const std::string& id);
 
 std::vector<PrintedPage> LibraryPages(const LibraryReport& report, const std::vector<GridRow>& rows,

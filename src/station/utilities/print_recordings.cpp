@@ -6,7 +6,6 @@
 #include "station/platform/clock.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/text.h"
-#include "station/utilities/print_steps.h"
 
 namespace quixair {
 namespace {
@@ -157,20 +156,26 @@ void PrintRecordingsMDI::OpenRange() {
 }
 
 void PrintRecordingsMDI::PrintTypedRange() {
-  const int count = MSFlexGrid1.row_count();
-  const std::optional<PrintRange> range = TypedRange(platform_, Text2, Text3, count, MustBeNumber::kBoth);
+  const PrintRange all = Listed();
+  const std::optional<PrintRange> range = TypedRange(platform_, Text2, Text3, all, MustBeNumber::kBoth);
   if (!range) return;
-  RemoveItems(range->highest + 1, count);  // from the highest down
-  RemoveItems(1, range->lowest - 1);
-  MSFlexGrid1.NumberRows(kNumberColumn);
+  RemoveItems(range->highest + 1, all.highest);  // from the highest down
+  RemoveItems(all.lowest, range->lowest - 1);
   PrintAll();
+}
+
+/// The numbers of the rows: those that are left keep theirs.
+PrintRange PrintRecordingsMDI::Listed() const {
+  const int first = WholeValue(MSFlexGrid1.cell(0, kNumberColumn));
+  return {first, first + MSFlexGrid1.row_count() - 1};
 }
 
 void PrintRecordingsMDI::RemoveItems(int first, int last) {
   if (last < first) return;
   Text1.SetText("Removing items " + Numbers(first, last));
   Repaint();
-  MSFlexGrid1.RemoveRows(first - 1, last - 1);
+  const int offset = Listed().lowest;
+  MSFlexGrid1.RemoveRows(first - offset, last - offset);
   Text1.SetText("Items " + Numbers(first, last) + " have been removed.");
 }
 

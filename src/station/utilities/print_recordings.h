@@ -8,6 +8,7 @@
 #include "station/screen/portioned_work.h"
 #include "station/screen/screen.h"
 #include "station/utilities/library_report.h"
+#include "station/utilities/print_steps.h"
 
 namespace quixair {
 
@@ -69,6 +70,7 @@ class PrintRecordingsMDI : public Screen {
   void SortBy(std::size_t key, const char* words);
   void OpenRange();
   void PrintTypedRange();
+  PrintRange Listed() const;
   void RemoveItems(int first, int last);
   void PrintAll();
   void CancelPrinting();

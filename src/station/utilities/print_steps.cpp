@@ -5,20 +5,22 @@
 
 namespace quixair {
 
-std::optional<PrintRange> TypedRange(const Platform& platform, TextBox& lowest, TextBox& highest, int count,
-                                     MustBeNumber must_be_number) {
+std::optional<PrintRange> TypedRange(const Platform& platform, TextBox& lowest, TextBox& highest,
+                                     const PrintRange& offered, MustBeNumber must_be_number) {
   const PrintRange range{WholeValue(lowest.text()), WholeValue(highest.text())};
-  const bool no_highest = must_be_number == MustBeNumber::kBoth && range.highest < 1;
+  const bool no_highest = must_be_number == MustBeNumber::kBoth && range.highest == 0 &&
+                          !Trimmed(highest.text()).starts_with('0');
+  const bool no_lowest = range.lowest < offered.lowest;
   const struct {
     bool failed;
     TextBox& box;
     const char* text;
   } checks[] = {
-      {range.lowest < 1 || no_highest, range.lowest < 1 ? lowest : highest,
+      {no_lowest || no_highest, no_lowest ? lowest : highest,
        "'Lowest' Number is Too Low or\nYou Didn't Enter a Valid Character"},
-      {range.lowest > count, lowest, "'Lowest' Number is Too High"},
+      {range.lowest > offered.highest, lowest, "'Lowest' Number is Too High"},
       {range.highest < range.lowest, highest, "'Highest' Number is Less Than 'Lowest' Number"},
-      {range.highest > count, highest, "'Highest' Number is Too High"},
+      {range.highest > offered.highest, highest, "'Highest' Number is Too High"},
   };
   for (const auto& check : checks) {
     if (!check.failed) continue;

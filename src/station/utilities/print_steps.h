@@ -23,10 +23,10 @@ struct PrintRange {
 /// Which of the two boxes must hold a number before anything else is looked at; the screens differ in it.
 enum class MustBeNumber { kLowest, kBoth };
 
-/// The range in the boxes, from 1 up to `count`. A fault is told in a box of its own; then the text box that
+/// The range in the boxes, within the one `offered`. A fault is told in a box of its own; then the text box that
 /// it is in is emptied and has the focus.
-std::optional<PrintRange> TypedRange(const Platform& platform, TextBox& lowest, TextBox& highest, int count,
-                                     MustBeNumber must_be_number);
+std::optional<PrintRange> TypedRange(const Platform& platform, TextBox& lowest, TextBox& highest,
+                                     const PrintRange& offered, MustBeNumber must_be_number);
 
 /// `icon` is of box_style.
 bool OperatorIsReadyToPrint(const Platform& platform, int icon);

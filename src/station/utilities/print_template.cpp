@@ -121,7 +121,7 @@ void PrintTemplate::PressDone() {
     Print({1, EventCount()});
   } else if (range_open_) {
     const std::optional<PrintRange> range =
-        TypedRange(platform_, Text2, Text3, EventCount(), MustBeNumber::kLowest);
+        TypedRange(platform_, Text2, Text3, {1, EventCount()}, MustBeNumber::kLowest);
     if (range) Print(*range);
   } else {
     take_choice_();

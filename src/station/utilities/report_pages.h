@@ -26,9 +26,9 @@ std::vector<std::string> AtTabs(const std::vector<TabbedText>& texts);
 
 /// What a column does with a text that is longer than the room before the next column.
 enum class Fit {
-  kWhole,   // it is printed as it is
-  kLabel,   // it is cut, and a blank stays free
-  kLength,  // it is cut: a number loses its last decimals
+  kWhole,  // it is printed as it is
+  kLabel,  // it is cut, and a blank stays free
+  kRoom,   // it is cut where the next column begins: a number loses its last decimals
 };
 
 struct ReportColumn {

@@ -14,8 +14,9 @@ constexpr std::size_t kListedId = 7;
 constexpr std::size_t kListedLabel = 8;
 constexpr int kIdTab = 7;
 constexpr int kLabelTab = 14;
+constexpr int kMinutesTab = 61;
 const std::vector<ReportColumn> kColumns = {
-    {1}, {kIdTab}, {kLabelTab, Fit::kLabel}, {31, Fit::kLabel}, {53, Fit::kLength}, {61}};
+    {1}, {kIdTab}, {kLabelTab, Fit::kRoom}, {31, Fit::kRoom}, {53, Fit::kRoom}, {kMinutesTab}};
 
 bool HasDataFile(const TemplateEvent& event) {
   const EventKind kind = KindOfEvent(event.EventId);
@@ -32,13 +33,16 @@ std::vector<std::string> HeadOf(const std::string& name, const std::string& date
 
 std::vector<TabbedText> EntryOf(int number, const ReportedEvent& event) {
   const std::string count = std::to_string(number);
+  const std::string minutes = '(' + std::string(Trimmed(event.minutes)) + ')';
   if (event.minutes.empty()) {
     // The time of a local break reaches into the next column, where nothing stands behind the mark.
     const int behind_id = kIdTab + static_cast<int>(event.id.size()) + 1;
-    return {{1, count}, {kIdTab, event.id}, {std::max(kLabelTab, behind_id), event.first_label}};
+    return {{1, count},
+            {kIdTab, event.id},
+            {std::max(kLabelTab, behind_id), event.first_label},
+            {kMinutesTab, minutes}};
   }
-  return Fitted(kColumns, {count, event.id, event.first_label, event.second_label, event.length,
-                           '(' + std::string(Trimmed(event.minutes)) + ')'});
+  return Fitted(kColumns, {count, event.id, event.first_label, event.second_label, event.length, minutes});
 }
 
 std::string TotalLine(const PrintRange& range, double seconds) {

@@ -80,9 +80,11 @@ TEST_F(PrintRecordings, UnknownLengthAndTornFile_PrintAsTheyAre) {
       "QXDATA/S1.DAT",
       "\"[New]\"\r\n\"S1\"\r\n\"C\"\r\n\"B\"\r\n\"T\"\r\n\"01-01-26\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n");
   PutFile("QXDATA/S2.DAT", "\"30\"\r\n\"S2\"\r\n");
+  PutFile("QXDATA/S3.DAT", FileText("QXDATA/S1.DAT"));
   OpenLoaded("Command7");
   Click(kScreen, "Command1");
   Click(kScreen, "Command15");
+  EXPECT_EQ(Column(1), "S1 S2 S3 ") << "the files' own names, by which one that is torn or copied is found";
   PrintAll();
   EXPECT_EQ(page(1)[5], "1    S1     B               T               [New] (0)   01-01-26              C");
   EXPECT_EQ(page(1)[6], "2");
@@ -134,6 +136,7 @@ TEST_F(PrintRecordings, RangeThatIsNone_IsRefused) {
                {"1", "x", "'Lowest' Number is Too Low or\nYou Didn't Enter a Valid Character"},
                {"6", "7", "'Lowest' Number is Too High"},
                {"3", "2", "'Highest' Number is Less Than 'Lowest' Number"},
+               {"5", "0", "'Highest' Number is Less Than 'Lowest' Number"},
                {"3", "6", "'Highest' Number is Too High"}};
   for (const auto& each : cases) {
     TypeRange(each.lowest, each.highest);
@@ -159,9 +162,16 @@ TEST_F(PrintRecordings, Range_RemovesTheOthersAndPrintsTheRest) {
   EXPECT_TRUE(jobs().empty());
   PrintAll();
   ASSERT_EQ(page(1).size(), 7U);
-  EXPECT_TRUE(page(1)[5].starts_with("1    S2 "));
-  EXPECT_TRUE(page(1)[6].starts_with("2    S3 "));
+  EXPECT_TRUE(page(1)[5].starts_with("2    S2 ")) << "under the number that was asked for";
+  EXPECT_TRUE(page(1)[6].starts_with("3    S3 "));
   EXPECT_EQ(Find<TextBox>(kScreen, "Text1").back_color(), std::nullopt) << "the banner is back";
+  TypeRange("1", "3");
+  Click(kScreen, "Command23", {"OK"});
+  EXPECT_EQ(boxes().back().title, "Invalid Entry") << "1 is removed";
+  TypeRange("3", "3");
+  Click(kScreen, "Command23", {"OK"});
+  ASSERT_EQ(page(1).size(), 6U);
+  EXPECT_TRUE(page(1)[5].starts_with("3    S3 "));
 }
 
 TEST_F(PrintRecordings, NoFiles_IsTold) {

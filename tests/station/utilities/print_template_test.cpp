@@ -38,11 +38,13 @@ class PrintTemplateScreen : public StationFixture {
 TEST_F(PrintTemplateScreen, EveryKindOfEvent_PrintsInItsColumns) {
   SetClock("2026-11-22 20:30:00");
   AddSpot("S1042", 95000, "", "", "", "Baker");
+  AddSong("M7", 30000, "The Twenty Letter Ar");
   PutEvents("A.TPP", {{"S1042", "frozen"},
                       {">PAUSE<", ""},
                       {"06:30 PM", "****LOCAL BREAK***"},
                       {"07:30 PM", "  ****LOCAL BREAK*"},
-                      {"M9", "Gone Song"}});
+                      {"M9", "Gone Song"},
+                      {"M7", ""}});
   OpenLoaded();
   EXPECT_EQ(Shown(kScreen, "Text1"), "A.TPP  Has been Loaded...");
   PrintAll();
@@ -52,11 +54,14 @@ TEST_F(PrintTemplateScreen, EveryKindOfEvent_PrintsInItsColumns) {
       pages()[0],
       ElementsAre(std::string(74, '^'), " Quixair    TEMPLATE: A.TPP  Printed on: 11/22/2026    Page: 1",
                   rule, "     File:      Account:            Title:           Len.   (Min.)  Notes:", rule,
-                  "1     S1042  Baker            Spot S1042            95      (1.58)", "2     >PAUSE<",
-                  "3     06:30 PM ****LOCAL BREAK***", "4     07:30 PM   ****LOCAL BREAK*",
-                  "5     M9     Gone Song"));
+                  "1     S1042  Baker            Spot S1042            95      (1.58)",
+                  "2     >PAUSE<                                               ()",
+                  "3     06:30 PM ****LOCAL BREAK***                           ()",
+                  "4     07:30 PM   ****LOCAL BREAK*                           ()",
+                  "5     M9     Gone Song                                      ()",
+                  "6     M7     The Twenty LetterTitle of M7           30      (0.5)"));
   EXPECT_THAT(std::vector(pages()[1].begin() + 5, pages()[1].end()),
-              ElementsAre("", "Total Length of Events 1 through 5 = 95.0 seconds (1.6) min."));
+              ElementsAre("", "Total Length of Events 1 through 6 = 125.0 seconds (2.1) min."));
 }
 
 TEST_F(PrintTemplateScreen, PagesOfFiftyThree_AndATotalPage) {

@@ -19,7 +19,7 @@ TEST(ReportPages, TextsBehindATab_GoToTheNextLine) {
 
 TEST(ReportPages, LabelsKeepABlankFree_LengthsUseTheWholeRoom) {
   const std::vector<TabbedText> texts =
-      Fitted({{1, Fit::kLabel}, {6, Fit::kLength}, {10}}, {"abcdefgh", "120.015", "whole text"});
+      Fitted({{1, Fit::kLabel}, {6, Fit::kRoom}, {10}}, {"abcdefgh", "120.015", "whole text"});
   EXPECT_EQ(texts[0].text, "abcd");
   EXPECT_EQ(texts[1].text, "120.");
   EXPECT_EQ(texts[2].text, "whole text");
