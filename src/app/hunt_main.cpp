@@ -126,12 +126,8 @@ void Tell(const hunt::Finding& finding, const hunt::ScreenAtlas& atlas, const Co
   script.resize(std::min(script.size(), broken.line + 1));
   const bool deadly = broken.rule == hunt::kRunHangs || broken.rule == hunt::kProgramDies;
   const auto breaks = [&](const hunt::Script& smaller) {
-    if (deadly) {
-      return hunt::RuleOfDeath([&] { hunt::PlayHunted(smaller, line.passed_over); }, kTimeToHang) ==
-             broken.rule;
-    }
-    const hunt::RunResult result = hunt::PlayHunted(smaller, line.passed_over);
-    return result.broken && result.broken->rule == broken.rule;
+    return hunt::RuleBrokenBy([&] { return hunt::PlayHunted(smaller, line.passed_over); }, kTimeToHang) ==
+           broken.rule;
   };
   if (line.shrink.count() == 0) return;
   Print(hunt::Shrunk(std::move(script), breaks, deadly ? kLongerForTheDeadly * line.shrink : line.shrink));

@@ -32,6 +32,11 @@ std::string RuleOf(int status) {
   return WTERMSIG(status) == SIGALRM ? kRunHangs : kProgramDies;
 }
 
+void Send(int pipe, const std::string& line) {
+  const std::string bytes = line + '\n';
+  if (::write(pipe, bytes.data(), bytes.size()) < 0) ::_exit(1);
+}
+
 /// One process and its share of the seeds.
 struct Hand {
   Hand(std::uint64_t first, std::uint64_t every) : next(first), step(every) {}
@@ -103,11 +108,6 @@ class Crew {
       }
       Send(pipe, "end");
     }
-  }
-
-  static void Send(int pipe, const std::string& line) {
-    const std::string bytes = line + '\n';
-    if (::write(pipe, bytes.data(), bytes.size()) < 0) ::_exit(1);
   }
 
   /// False when nobody works any more.
@@ -183,16 +183,23 @@ Bag RunCrew(std::uint64_t from, std::uint64_t to, std::optional<std::chrono::min
   return Crew(from, to, most, run).Work();
 }
 
-std::string RuleOfDeath(const std::function<void()>& run, std::chrono::seconds most) {
+std::string RuleBrokenBy(const std::function<RunResult()>& run, std::chrono::seconds most) {
+  int ends[2] = {-1, -1};
+  if (::pipe(ends) != 0) return {};
   const pid_t process = ::fork();
   if (process == 0) {
     ::alarm(static_cast<unsigned>(most.count()));
-    run();
+    const RunResult result = run();
+    if (result.broken) Send(ends[1], result.broken->rule);
     ::_exit(0);
   }
+  ::close(ends[1]);
+  std::string rule;
+  for (char c = 0; ::read(ends[0], &c, 1) == 1 && c != '\n';) rule += c;
+  ::close(ends[0]);
   int status = 0;
   ::waitpid(process, &status, 0);
-  return RuleOf(status);
+  return rule.empty() ? RuleOf(status) : rule;
 }
 
 }  // namespace quixair::hunt

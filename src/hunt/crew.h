@@ -37,7 +37,7 @@ inline constexpr const char* kProgramDies = "program-dies";
 Bag RunCrew(std::uint64_t from, std::uint64_t to, std::optional<std::chrono::minutes> most,
             const std::function<RunResult(std::uint64_t seed, const OnLine& on_line)>& run);
 
-/// The rule that a script breaks by ending its process or by not coming to its end; empty when it does neither.
-std::string RuleOfDeath(const std::function<void()>& run, std::chrono::seconds most);
+/// The rule that a run breaks, found out in a process of its own; empty for none.
+std::string RuleBrokenBy(const std::function<RunResult()>& run, std::chrono::seconds most);
 
 }  // namespace quixair::hunt

@@ -60,9 +60,10 @@ class Life {
   }
 
   void Write() {
-    Say("answer-others " + draw_.Of({"OK", "OK", "Yes", "No", "Cancel"}));
+    if (draw_.Chance(60)) Say("answer-others " + draw_.Of({"Yes", "No", "Cancel"}));
     StartProgram();
     OpenPlayback();
+    Wait();
     while (passed_ < kHalfHour) {
       (this->*kActs[draw_.Weighted(weights_)].act)();
       Wait();
@@ -106,7 +107,7 @@ class Life {
   void OpenPlayback() {
     for (const char* screen : {"RandomForm1", "PickListForm1"}) {
       Try("click " + std::string(screen) + ".EndRunCommand");
-      Try("click " + std::string(screen) + ".Command2");
+      Try("click " + std::string(screen) + ".Command2");  // no run is on: Quit
     }
     OpenAMode();
   }
@@ -126,6 +127,7 @@ class Life {
     if (station_.stop_sets) ChooseTemplate();
     ShortWait();
     ClickOnAir("Start");
+    ShortWait();
   }
 
   void ChooseTemplate() {
@@ -153,7 +155,9 @@ class Life {
 
   void StartList() {
     if (draw_.Chance(20)) Try("select " + OnAir("List1") + " #" + std::to_string(draw_.Between(1, 5)));
+    ShortWait();
     ClickOnAir("Start");
+    ShortWait();
   }
 
   void BuildAndPlay() {
@@ -197,9 +201,11 @@ class Life {
   void TouchOnAirScreen() { ActOn(mode_); }
 
   void EndRunAndStartAgain() {
-    const int way = draw_.Below(4);
-    if (way == 0) Try("close " + mode_);
-    if (way != 0) ClickOnAir("EndRunCommand");
+    if (draw_.Chance(25)) {
+      Try("close " + mode_);
+    } else {
+      ClickOnAir("EndRunCommand");
+    }
     Wait();
     OpenPlayback();
   }

@@ -67,6 +67,7 @@ class Maker {
     made_.begins = DrawBeginning(draw_);
     script_.push_back("clock " + script::Quoted(script::Stamp(made_.begins).substr(0, 19)));
     script_.push_back("seed " + std::to_string(draw_.Below(100000)));
+    script_.push_back("answer-others OK");
     MakeLibrary();
     MakeSettings();
     MakeTemplates();

@@ -25,7 +25,7 @@ struct MadeStation {
   bool stop_sets = false;
 };
 
-/// Adds the statements that make it, the clock's first.
+/// Adds the statements that make it; the first three set the clock, the draws and the answers.
 MadeStation MakeStation(Draw& draw, Script& script);
 
 /// A statement that writes a file of these lines.

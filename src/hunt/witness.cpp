@@ -18,6 +18,7 @@ using std::chrono::milliseconds;
 using namespace std::chrono_literals;
 
 constexpr milliseconds kLookAround{500};
+constexpr milliseconds kTicksHaveTheirTurn{400};
 constexpr milliseconds kTimeToBeBack{2000};
 constexpr milliseconds kTelling{3000};  // who tries again more often than that is telling why nothing sounds
 constexpr std::array kModes = {std::pair(Mode::kRandom, "RandomForm1"),
@@ -107,7 +108,7 @@ void Witness::Connect() {
 
 void Witness::Begin(std::string_view statement) {
   cause_ = CauseOf(statement);
-  statement_ = statement;
+  if (cause_ != Cause::kTime) changed_at_ = station_.time().Steady();
   const auto says = [&](std::string_view what) { return statement.find(what) != std::string_view::npos; };
   if (cause_ == Cause::kPowerCut) NotePowerCut();
   if (cause_ == Cause::kStart) started_at_ = station_.time().Steady();
@@ -127,6 +128,10 @@ void Witness::End() {
   }
   Look(true);
   cause_ = Cause::kNothing;
+}
+
+bool Witness::settled() const {
+  return settled_ && !box_open_ && Span(changed_at_, station_.time().Steady()) >= kTicksHaveTheirTurn;
 }
 
 bool Witness::in_run() const {
@@ -157,7 +162,8 @@ void Witness::OnChannel(const simulation::ChannelEvent& event) {
       const ScreenHands& hands = Hands(mode);
       if (hands.screen == nullptr) continue;
       const MediaControl& channel = *hands.channels[static_cast<std::size_t>(event.channel - 1)];
-      if (channel.file_name() == event.file)
+      const bool opened = channel.Mode() == ChannelMode::kStopped && channel.Position() == 0;
+      if (channel.file_name() == event.file && opened)
         heard_[{mode, event.channel}] = {.reopened = true, .plays = false, .path = event.file, .airing = {}};
     }
   }
@@ -197,6 +203,7 @@ OnAir Witness::LookAt(Mode mode, ScreenHands& hands) {
 void Witness::Look(bool settled) {
   settled_ = settled;
   const SteadyTime now = station_.time().Steady();
+  if (!settled) changed_at_ = now;
   const milliseconds passed = Span(last_look_, now);
   last_look_ = now;
   before_ = std::exchange(on_air_, {});
@@ -209,6 +216,9 @@ void Witness::Look(bool settled) {
     heard.plays = false;
   }
   for (const OnAir& screen : on_air_) Follow(screen);
+  for (auto& [place, heard] : heard_) {
+    if (heard.airing) airings_[*heard.airing].over = !heard.plays;
+  }
   for (const OnAir& screen : before_) {
     const auto same = [&](const OnAir& other) { return other.mode == screen.mode && other.in_run(); };
     if (screen.in_run() && std::none_of(on_air_.begin(), on_air_.end(), same)) news_.run_ended = screen.mode;
@@ -252,7 +262,8 @@ Airing Witness::NewAiring(const OnAir& screen, int number) {
 bool Witness::WantsProof(const OnAir& screen, const std::string& id) const {
   if (disk_full_ || (screen.mode == Mode::kRandom && screen.in_set) || !IsVerified(id)) return false;
   const auto* box = dynamic_cast<const CheckBox*>(Find(screen.mode, "Check2"));
-  return box != nullptr && box->ticked() && Exists("C:\\QXTEMPLT\\GALA.TPL");
+  return box != nullptr && box->ticked() &&
+         station_.files().List(station_paths::kTemplateFolder, "*.LOG").ok();
 }
 
 bool Witness::Exists(std::string_view path) const {

@@ -51,6 +51,7 @@ struct Airing {
   CivilTime began;
   SteadyTime began_at;
   std::chrono::milliseconds sounded{0};
+  bool over = false;  // it does not sound any more
   bool in_set = false;
   bool wants_proof = false;
   std::string refusal;  // why it must not sound: out of its dates when it began
@@ -73,8 +74,9 @@ class Witness {
   /// After each look; the station is looked at at each change on a channel, at each box, twice a second and after each
   /// statement.
   std::function<void()> on_look;
-  /// Not in the middle of a step: what the screen shows can be taken at its word.
-  bool settled() const { return settled_ && !box_open_; }
+  /// Not in the middle of a step, and its ticks have had their turn since the last change: what the screen shows can be
+  /// taken at its word.
+  bool settled() const;
 
   simulation::SimulatedStation& station() const { return station_; }
   const std::vector<OnAir>& on_air() const { return on_air_; }
@@ -152,6 +154,7 @@ class Witness {
   simulation::SimulatedStation& station_;
   std::unique_ptr<TimerShots> timer_;
   bool settled_ = true;
+  SteadyTime changed_at_{};
   bool box_open_ = false;
   std::set<std::string> other_screens_;
   std::map<Mode, ScreenHands> hands_;
@@ -166,7 +169,6 @@ class Witness {
   std::set<std::string> passed_over_;
   SteadyTime failed_at_{};
   Cause cause_ = Cause::kNothing;
-  std::string statement_;
   News news_;
   std::optional<BrokenOff> broken_off_;
   SteadyTime started_at_{};
