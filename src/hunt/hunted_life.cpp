@@ -12,6 +12,7 @@
 namespace quixair::hunt {
 namespace {
 
+constexpr int kHurriedActs = 150;
 constexpr int kHalfHour = 30 * 60 * 1000;
 
 /// The console's items that open a screen, and the screen.
@@ -56,7 +57,7 @@ class Life {
       weights_.push_back(draw_.Chance(45) ? draw_.Between(1, kActs[act].most) : 0);
     }
     weights_.front() += 3;  // something always happens
-    hurried_ = draw_.Chance(30);
+    hurried_acts_ = draw_.Chance(25) ? kHurriedActs : 0;
   }
 
   void Write() {
@@ -85,10 +86,9 @@ class Life {
     Say("advance " + std::to_string(milliseconds) + "ms");
     passed_ += milliseconds;
   }
-  /// No person acts twice within a quarter of a second.
   void Wait() {
     const int haste = draw_.Below(10);
-    if (hurried_ || haste < 3) return Pass(draw_.Between(250, 2'500));
+    if (hurried_acts_-- > 0 || haste < 3) return Pass(draw_.Between(250, 2'500));
     Pass(haste < 7 ? draw_.Between(2'000, 25'000) : draw_.Between(20'000, 150'000));
   }
   void ShortWait() { Pass(draw_.Between(250, 900)); }
@@ -351,7 +351,7 @@ class Life {
   const ScreenAtlas& atlas_;
   Script& script_;
   std::vector<int> weights_;
-  bool hurried_ = false;
+  int hurried_acts_ = 0;  // that are left
   std::string mode_;
   int passed_ = 0;
 };
@@ -387,7 +387,7 @@ Script ScriptOf(std::uint64_t seed, const ScreenAtlas& atlas) {
   Script script;
   const MadeStation station = MakeStation(draw, script);
   Life(draw, station, atlas, script).Write();
-  return script;
+  return InAPersonsTime(script);
 }
 
 }  // namespace quixair::hunt

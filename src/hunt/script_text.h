@@ -12,4 +12,8 @@ using Script = std::vector<std::string>;
 /// Stands before the lines in which nothing misbehaves any more and nobody acts.
 inline constexpr const char* kCalm = "# calm";
 
+/// With a quarter of a second between two acts of the operator: no person is quicker, and what would come of it is no
+/// finding.
+Script InAPersonsTime(const Script& script);
+
 }  // namespace quixair::hunt

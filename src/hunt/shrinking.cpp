@@ -12,25 +12,6 @@ using SteadyClock = std::chrono::steady_clock;
 /// The clock, the seed and the answers, without which a script would not play the same twice.
 constexpr std::size_t kLinesThatStay = 3;
 
-bool IsAct(const std::string& statement) {
-  const std::string act = statement.starts_with("try ") ? statement.substr(4) : statement;
-  for (const char* word :
-       {"click ", "doubleclick ", "select ", "menu ", "close ", "enter ", "type ", "powercut"}) {
-    if (act.starts_with(word)) return true;
-  }
-  return false;
-}
-
-/// No person acts twice within a quarter of a second.
-Script InAPersonsTime(const Script& script) {
-  Script spaced;
-  for (const std::string& statement : script) {
-    if (IsAct(statement) && !spaced.empty() && IsAct(spaced.back())) spaced.push_back("advance 250ms");
-    spaced.push_back(statement);
-  }
-  return spaced;
-}
-
 Script Without(const Script& script, std::size_t from, std::size_t count) {
   Script rest;
   for (std::size_t i = 0; i < script.size(); ++i) {

@@ -52,6 +52,11 @@ Cause CauseOf(std::string_view statement) {
   return Cause::kWorld;
 }
 
+/// Daily templates change in this minute.
+bool AtMidnight(const CivilTime& now) {
+  return now.hour == 0 && now.minute == 0;
+}
+
 template <class Function>
 void Also(std::function<void(Function)>& hook, std::function<void(Function)> then) {
   hook = [before = std::move(hook), then = std::move(then)](Function value) {
@@ -217,7 +222,14 @@ void Witness::Look(bool settled) {
   }
   for (const OnAir& screen : on_air_) Follow(screen);
   for (auto& [place, heard] : heard_) {
-    if (heard.airing) airings_[*heard.airing].over = !heard.plays;
+    const auto same = [mode = place.mode](const OnAir& screen) { return screen.mode == mode; };
+    const auto screen = std::find_if(on_air_.begin(), on_air_.end(), same);
+    const ChannelMode mode = screen == on_air_.end()
+                                 ? ChannelMode::kNotOpen
+                                 : screen->channels[static_cast<std::size_t>(place.number - 1)].mode;
+    if (heard.airing && mode != ChannelMode::kPlaying && mode != ChannelMode::kPaused) {
+      airings_[*heard.airing].over = true;
+    }
   }
   for (const OnAir& screen : before_) {
     const auto same = [&](const OnAir& other) { return other.mode == screen.mode && other.in_run(); };
@@ -341,7 +353,7 @@ void Witness::CompareAfterRestart() {
                                  [&](const OnAir& screen) { return screen.mode == was.mode; });
   if (back == on_air_.end() || !back->in_run()) {
     news_.not_back = "the run is not taken up again";
-  } else if (TemplateName(was.mode) != was.template_name) {
+  } else if (!AtMidnight(station_.time().Now()) && TemplateName(was.mode) != was.template_name) {
     news_.not_back = "the template was " + was.template_name + " and is " + TemplateName(was.mode);
   }
   if (news_.not_back.empty()) Happened("a run taken up after a power cut");
