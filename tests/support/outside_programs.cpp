@@ -1,6 +1,7 @@
 #include "support/outside_programs.h"
 
 #include <fcntl.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -35,7 +36,12 @@ Child::Child(std::vector<std::string> words, const std::filesystem::path& output
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
   id_ = fork();
-  if (id_ != 0) return;
+  if (id_ != 0) {
+    setpgid(id_, id_);  // on both sides: whoever comes first
+    return;
+  }
+  setpgid(0, 0);
+  prctl(PR_SET_PDEATHSIG, SIGKILL);
   const int to = open(output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
   const int nowhere = open("/dev/null", O_WRONLY);
   dup2(to, STDOUT_FILENO);
@@ -54,8 +60,8 @@ void Child::Send(int signal) const {
 }
 
 void Child::Kill() {
+  kill(-id_, SIGKILL);
   if (reaped_) return;
-  kill(id_, SIGKILL);
   waitpid(id_, nullptr, 0);
   reaped_ = true;
 }

@@ -20,7 +20,7 @@ bool IsInstalled(const std::string& program);
 /// Asks until the condition holds; false when it did not within `patience`.
 bool Await(std::chrono::milliseconds patience, const std::function<bool()>& condition);
 
-/// A program that is gone when this is.
+/// A program that is gone when this is, with all that it started in its turn.
 class Child {
  public:
   using Environment = std::vector<std::pair<std::string, std::string>>;
@@ -31,8 +31,9 @@ class Child {
   Child(const Child&) = delete;
   Child& operator=(const Child&) = delete;
 
+  pid_t id() const { return id_; }
   void Send(int signal) const;
-  /// Sends SIGKILL and waits until it is gone.
+  /// Sends SIGKILL to it and to what it started, and waits until it is gone.
   void Kill();
   /// Whether it has ended by itself, or by a signal.
   bool ended();

@@ -1,6 +1,6 @@
-// Loaded before the C library into a program under test: kills it with SIGKILL in the middle of writing one
-// of its files. QUIXAIR_KILL_FILE is the end of that file's name; QUIXAIR_KILL_AT is the moment: "opened" and
-// not yet written, "half" of the bytes written, or "written" and not yet flushed.
+// Loaded before the C library into a program under test: kills its whole process group with SIGKILL in the middle
+// of writing one of its files. QUIXAIR_KILL_FILE is the end of that file's name; QUIXAIR_KILL_AT is the moment:
+// "opened" and not yet written, "half" of the bytes written, or "written" and not yet flushed.
 
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -47,7 +47,7 @@ int open(const char* path, int flags, ...) {
   const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
   va_end(arguments);
   const int descriptor = Real<int (*)(const char*, int, mode_t)>("open")(path, flags, mode);
-  if ((flags & O_ACCMODE) != O_RDONLY && IsMoment("opened") && IsTheFile(path)) ::raise(SIGKILL);
+  if ((flags & O_ACCMODE) != O_RDONLY && IsMoment("opened") && IsTheFile(path)) ::kill(0, SIGKILL);
   return descriptor;
 }
 
@@ -56,6 +56,6 @@ ssize_t pwrite(int descriptor, const void* bytes, std::size_t count, off_t place
   const bool half = IsMoment("half");
   if ((!half && !IsMoment("written")) || !IsTheFile(descriptor)) return real(descriptor, bytes, count, place);
   real(descriptor, bytes, half ? count / 2 : count, place);
-  return ::raise(SIGKILL);
+  return ::kill(0, SIGKILL);
 }
 }
