@@ -47,10 +47,10 @@ class ScreenArea : public QMdiArea {
   }
 };
 
-QLabel* MakeBanner(QWidget* parent) {
-  auto* banner = new QLabel(parent);
-  banner->setObjectName(QStringLiteral("viewTrouble"));
-  banner->setProperty("role", QStringLiteral("trouble"));
+QLabel* MakeBanner(const char* name, const char* role) {
+  auto* banner = new QLabel;
+  banner->setObjectName(QLatin1String(name));
+  banner->setProperty("role", QLatin1String(role));
   banner->setTextFormat(Qt::PlainText);
   banner->setWordWrap(true);
   QFont font = banner->font();
@@ -67,7 +67,8 @@ MainFrame::MainFrame(const Platform& platform, ThemeSwitch& theme)
     : platform_(platform),
       theme_(theme),
       area_(new ScreenArea),
-      trouble_(MakeBanner(nullptr)),
+      notice_(MakeBanner("viewNotice", "notice")),
+      trouble_(MakeBanner("viewTrouble", "trouble")),
       theme_button_(new QToolButton),
       access_keys_(*area_) {
   setWindowIcon(ProgramIcon());
@@ -76,6 +77,7 @@ MainFrame::MainFrame(const Platform& platform, ThemeSwitch& theme)
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   column->addWidget(area_, 1);
+  column->addWidget(notice_);
   column->addWidget(trouble_);
   setCentralWidget(center);
   area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
@@ -121,6 +123,18 @@ void MainFrame::ShowTrouble() {
   const QString trouble = ToQt(platform_.media.OutputTrouble());
   trouble_->setText(trouble);
   trouble_->setVisible(!trouble.isEmpty());
+}
+
+void MainFrame::ShowNotice(const QString& text) {
+  notice_->setText(text);
+  notice_->setVisible(!text.isEmpty());
+}
+
+void MainFrame::ComeToFront() {
+  if (!isVisible()) return;
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  raise();
+  activateWindow();
 }
 
 void MainFrame::ScreenOpened(Screen& screen) {

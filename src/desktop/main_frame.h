@@ -32,6 +32,11 @@ class MainFrame : public QMainWindow, public ScreensObserver {
   void ScreenClosed(Screen& screen) override;
   void ScreenActivated(Screen& screen) override;
 
+  /// Over everything else on the display, unless the splash stands before it.
+  void ComeToFront();
+  /// What the operator is to know of this start of the program, until its end.
+  void ShowNotice(const QString& text);
+
   /// The form of an open screen, or none.
   QWidget* FormOf(const Screen& screen) const;
 
@@ -47,6 +52,7 @@ class MainFrame : public QMainWindow, public ScreensObserver {
   const Platform& platform_;
   ThemeSwitch& theme_;
   QMdiArea* area_;
+  QLabel* notice_;
   QLabel* trouble_;
   QToolButton* theme_button_;
   QTimer trouble_timer_;

@@ -1,9 +1,10 @@
 // The on-air program itself on a display and a sound card of the test's own: killed without a word at many
-// moments, and back on the air by itself each time with every file whole.
+// moments, alone or with its supervisor, and back on the air by itself each time with every file whole.
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <csignal>
 #include <cstring>
 #include <fstream>
 #include <iostream>
@@ -122,6 +123,12 @@ class PowerCut : public ::testing::Test {
                                    folder_.path() / "program.log", environment);
   }
 
+  /// The process that plays, below its supervisor.
+  static pid_t LifeOf(const Child& program) {
+    const std::string id = std::to_string(program.id());
+    return static_cast<pid_t>(std::atoi(ReadHostFile("/proc/" + id + "/task/" + id + "/children").c_str()));
+  }
+
   /// Milliseconds from now until the recording, having fallen silent, sounds again; none within ten seconds.
   std::optional<double> AwaitSound() const {
     const auto start = SteadyClock::now();
@@ -170,6 +177,13 @@ class PowerCut : public ::testing::Test {
       if (entry.path().extension() == ".LOG") torn += IncompleteLines(entry.path(), proof);
     }
     EXPECT_LE(torn, torn_lines);
+  }
+
+  bool IsSounding() const {
+    const std::size_t now = RecordedBytes() / 2 * 2;
+    Await(seconds(5), [&] { return RecordedBytes() > now + kRecordingRate; });
+    const std::string bytes = ReadFrom(now);
+    return std::any_of(bytes.begin(), bytes.end(), [](char byte) { return byte > 5 && byte < 120; });
   }
 
   static int IncompleteLines(const fs::path& log, const std::regex& complete) {
@@ -225,6 +239,37 @@ TEST_F(PowerCut, InTheMiddleOfEachWrite_CostsAtMostTheLineBeingWritten) {
       ExpectFilesWhole(torn_lines);
     }
   }
+}
+
+TEST_F(PowerCut, OfTheProgramAlone_NobodyButItsSupervisorBringsItBack) {
+  const auto program = StartProgram();
+  ASSERT_TRUE(AwaitSound());
+  std::mt19937 random(21);
+  for (int death = 0; death < 4; ++death) {
+    std::this_thread::sleep_for(milliseconds(std::uniform_int_distribution<int>(20, 1600)(random)));
+    const pid_t life = LifeOf(*program);
+    kill(life, SIGKILL);
+    ASSERT_TRUE(AwaitSound()) << "silent after death " << death;
+    EXPECT_NE(LifeOf(*program), life);
+  }
+  const std::string log = ReadHostFile(Host("QXAIR/QXERROR.LOG"));
+  EXPECT_NE(log.find(" The program was ended by signal 9 (Killed) and was started again\"\r\n"),
+            std::string::npos)
+      << log;
+  program->Send(SIGTERM);
+  EXPECT_TRUE(Await(seconds(10), [&] { return program->ended(); })) << "the session's end ends both";
+}
+
+TEST_F(PowerCut, OfTheSupervisorAlone_TheProgramGoesOn_AndStaysTheOnlyOne) {
+  const auto program = StartProgram();
+  ASSERT_TRUE(AwaitSound());
+  const pid_t life = LifeOf(*program);
+  program->Send(SIGKILL);
+  ASSERT_TRUE(Await(seconds(5), [&] { return program->ended(); }));
+  const auto second = StartProgram();
+  EXPECT_TRUE(Await(seconds(10), [&] { return second->ended(); })) << "a second station on the same folders";
+  EXPECT_EQ(kill(life, 0), 0);
+  EXPECT_TRUE(IsSounding());
 }
 
 }  // namespace
