@@ -4,6 +4,7 @@
 
 #include "station/console/station_paths.h"
 #include "station/picklist/pick_list_playback.h"
+#include "station/platform/dialogs.h"
 
 namespace quixair {
 PickListForm1::PickListForm1(const Platform& platform)
@@ -29,7 +30,9 @@ void PickListForm1::Load() {
 }
 
 void PickListForm1::PrepareAgain(const ScreenOpening&) {
-  playback_->LoadAnew();
+  if (!OnTheAir()) return playback_->LoadAnew();
+  platform_.dialogs.MessageBox("A list is on the air, and goes on.\nEnd its run before you play another one.",
+                               box_style::kOk + box_style::kExclamation, "Pick-List Playback");
 }
 
 bool PickListForm1::OnTheAir() const {

@@ -19,6 +19,7 @@ class PickListForm1 : public PlaybackScreen {
   explicit PickListForm1(const Platform& platform);
   ~PickListForm1() override;
   void Load() override;
+  /// Takes the list that was handed over meanwhile; on the air it says so and goes on.
   void PrepareAgain(const ScreenOpening& opening) override;
   bool OnTheAir() const override;
   void EndRunOnTheAir() override;

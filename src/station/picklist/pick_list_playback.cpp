@@ -97,7 +97,6 @@ bool PickListPlayback::Activate() {
 }
 
 void PickListPlayback::LoadAnew() {
-  if (status().state != AirState::kReady) return;
   context_.run.ScreenActivated = false;
   context_.run.FirstEvent = 0;
   context_.screen.Label7.SetCaption({});

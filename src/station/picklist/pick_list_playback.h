@@ -21,7 +21,7 @@ class PickListPlayback {
   /// the next. Starts by itself after a power cut and at a change of the day.
   /// False when there is no such file at a change of the day.
   bool Activate();
-  /// The screen was asked for again, with another list; one that is on the air is left as it is.
+  /// Loads what was handed over since, before a run.
   void LoadAnew();
   void EndRun() { controls_.EndRun(); }
   bool running() const { return context_.air.deck.running(); }

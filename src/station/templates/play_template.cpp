@@ -53,6 +53,7 @@ void PlayTemplate::Choose(const ChosenTemplate& chosen) {
 PickPlayTemplate::PickPlayTemplate(const Platform& platform) : PlayTemplate(platform, kPickList) {}
 
 Status PickPlayTemplate::Play(const ChosenTemplate& chosen) {
+  if (ListIsOnTheAir(platform_.screens)) return {};
   Status written = WriteTextSetting(platform_.files, station_paths::kStorePik, chosen.name);
   if (written.ok()) written = WriteNumberSetting(platform_.files, station_paths::kPikMode, 0);
   if (written.ok()) platform_.screens.Open("PickListForm1");

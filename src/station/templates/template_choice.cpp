@@ -1,6 +1,7 @@
 #include "station/templates/template_choice.h"
 
 #include "station/console/station_paths.h"
+#include "station/screen/screen.h"
 
 namespace quixair {
 
@@ -32,6 +33,14 @@ void TemplateChoice::Choose(ChosenTemplate::Way way) {
   const ListBox& list = daily ? daily_ : custom_;
   if (list.selected_index() < 0) return;
   on_choose({.name = list.selected_text(), .way = way, .daily = daily});
+}
+
+bool ListIsOnTheAir(Screens& screens) {
+  constexpr const char* kPickList = "PickListForm1";
+  const Screen* on_air = screens.OnTheAir();
+  if (on_air == nullptr || on_air->name() != kPickList) return false;
+  screens.Open(kPickList);
+  return true;
 }
 
 void ShowTemplates(FileListBox& list, const std::string& pattern) {

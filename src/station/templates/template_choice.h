@@ -7,6 +7,7 @@
 #include <functional>
 #include <string>
 
+#include "station/platform/screens.h"
 #include "station/screen/controls.h"
 
 namespace quixair {
@@ -40,6 +41,9 @@ class TemplateChoice {
   ListBox& daily_;
   Button& done_;
 };
+
+/// A list is on the air, which its screen has come forward to say: nothing is to be handed over to it.
+bool ListIsOnTheAir(Screens& screens);
 
 /// The template folder's files that match.
 void ShowTemplates(FileListBox& list, const std::string& pattern);

@@ -8,6 +8,7 @@
 #include "station/platform/dialogs.h"
 #include "station/platform/text.h"
 #include "station/templates/build_template1.h"
+#include "station/templates/template_choice.h"
 #include "station/templates/template_editor.h"
 
 namespace quixair {
@@ -163,8 +164,12 @@ void TemplateEditor::Play() {
     return;
   }
   const Platform& platform = screen_.platform();
-  const Status written =
+  if (ListIsOnTheAir(platform.screens)) return;
+  Status written =
       platform.files.Write(station_paths::kPickList, FormatPickList(entries_.Ids()), Durability::kFlushed);
+  // Another item of the menu may have asked for another mode since this screen was opened.
+  if (written.ok())
+    written = WriteTextSetting(platform.files, station_paths::kPikMode, std::to_string(pik_mode_));
   if (!written.ok()) {
     TellFileFault(platform.dialogs, written, "The list cannot be played.");
     return;

@@ -457,6 +457,32 @@ TEST_F(TemplateEditorScreen, OnAirAssist_GoesBackToTheManualBox) {
   EXPECT_TRUE(Find<TextBox>(kEditor, "Text8").visible()) << "what was hidden can be shown again";
 }
 
+TEST_F(TemplateEditorScreen, ListPlayedWhileAnotherIsOnTheAir_IsKeptAndNothingIsHandedOver) {
+  PutTemplate("A.TPP", {"S1", "S2"});
+  StartAt("RunTemplate");
+  Select("PickPlayTemplate", "File1", "A.TPP").DoubleClick();
+  Click("PickListForm1", "Start");
+  Menu("OnAirAssist");
+  Add("List3", "S3");
+  const std::string mode = FileText("QXAIR/PIKMODE.DTA");
+  Click(kEditor, "Command1", {"OK"});
+  EXPECT_EQ(boxes().back().title, "Pick-List Playback");
+  EXPECT_EQ(Ids(), "S3 ");
+  EXPECT_FALSE(std::filesystem::exists(Host("QXAIR/PICKLIST.DTA")));
+  PutTemplate("B.TPP", {"S3"});
+  Menu("RunTemplate");
+  QueueAnswer("OK");
+  Select("PickPlayTemplate", "File1", "B.TPP").DoubleClick();
+  EXPECT_EQ(FileText("QXAIR/STOREPIK.DTA"), "\"A.TPP\"\r\n");
+  EXPECT_EQ(FileText("QXAIR/PIKMODE.DTA"), mode);
+  Advance(25s);
+  EXPECT_EQ(AiredIds(), (std::vector<std::string>{"S1", "S2"})) << "the run goes on";
+  Advance(30s);
+  Click(kEditor, "Command1");
+  Click("PickListForm1", "Start");
+  EXPECT_EQ(AiredIds().back(), "S3");
+}
+
 TEST_F(TemplateEditorScreen, FullTemplate_ReplacesItsLastEvent) {
   OpenWith(std::vector<std::string>(1999, "S1"));
   Advance(1s);
