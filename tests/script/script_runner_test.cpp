@@ -102,7 +102,8 @@ TEST_F(Scripts, ProgramEnded_NothingSoundsAndTimeGoesOn) {
       "1m\nstart\n");
   EXPECT_EQ(played.exit_code, 0) << played.errors;
   const std::string expected =
-      "-> Yes\n2026-11-22 20:00:05.000 end 0\n2026-11-22 20:01:05.000 screen Console open\n"
+      "-> Yes\n2026-11-22 20:00:05.000 channel 1 Close\n2026-11-22 20:00:05.000 end 0\n2026-11-22 "
+      "20:01:05.000 screen Console open\n"
       "2026-11-22 20:01:05.000 screen frmSplash open\n";
   EXPECT_TRUE(played.out.ends_with(expected)) << played.out;
 }
