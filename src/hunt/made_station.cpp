@@ -11,7 +11,7 @@ namespace quixair::hunt {
 namespace {
 
 constexpr std::int64_t kMinute = 60'000;
-constexpr std::int64_t kDay = 24 * 60 * kMinute;
+constexpr std::int64_t kDay = std::int64_t{24} * 60 * kMinute;
 
 CivilTime After(const CivilTime& time, std::int64_t milliseconds) {
   return CivilFromMilliseconds(MillisecondsFromCivil(time) + milliseconds);
@@ -168,6 +168,7 @@ class Maker {
 
   void Template(const std::string& name, const std::vector<std::string>& ids) {
     std::vector<std::string> lines;
+    lines.reserve(ids.size() + 1);
     for (const std::string& id : ids) lines.push_back(Text(id) + ',' + Text(id.empty() ? "" : "Title"));
     if (!draw_.Chance(4)) lines.push_back("\"\",\"\"");
     script_.push_back(Put("C:\\QXTEMPLT\\" + name, lines));

@@ -30,6 +30,7 @@ bool Deck::Begin(int number, AirItem item) {
   }
   channel.Command(ChannelCommand::kPlay);
   TakeTurn(number);
+  clock_.Start();
   const AirItem& began = items_.at(static_cast<std::size_t>(number - 1)).emplace(std::move(item));
   for (DeckObserver* observer : observers_) observer->ItemBegan(number, began);
   return true;

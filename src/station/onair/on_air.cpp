@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "station/library/proof_log.h"
 #include "station/platform/civil_time.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/text.h"
@@ -46,6 +47,17 @@ void OnAir::TellEmpty(const std::string& path) {
   faults.Add(row, ' ' + row);
 }
 
+void OnAir::TellProofWritten(const Status& written) {
+  TextBox& warning = screen.Text3;
+  if (written.error() == RunTimeError::kDiskFull) {
+    warning.SetText(kDriveFullWarning);
+    warning.Show();
+  } else if (written.ok() && warning.visible()) {
+    if (warning.text() == kDriveFullWarning) warning.SetText("");
+    warning.Hide();
+  }
+}
+
 void OnAir::HoldForLive() {
   status.Tell(status_text::kLiveNow);
   screen.Run.ShowLiveNow();
@@ -59,7 +71,6 @@ void OnAir::HoldForLive() {
 void OnAir::EndStep() {
   const CivilTime now = screen.platform().clock.Now();
   screen.Text2.SetText("Today is: " + DayName(now) + ". " + MonthDayYear(now));
-  deck.clock().Start();
   ArmTimers();
 }
 

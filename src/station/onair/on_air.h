@@ -40,9 +40,11 @@ class OnAir final : public DeckObserver {
   /// A channel's turn: the labels tell its file.
   void ShowTurn(int channel);
   void TellEmpty(const std::string& path);
+  /// A full disk is told, and told no more when there is room again; it does not hold up the air.
+  void TellProofWritten(const Status& written);
   /// The announcer has the air until Continue.
   void HoldForLive();
-  /// The date, the item's clock and the timers.
+  /// The date and the timers.
   void EndStep();
   /// Polling begins with the first step that comes to its end.
   void ArmTimers();

@@ -89,6 +89,7 @@ void PickListEngine::Step() {
   const Started started = StartItem();
   if (started == Started::kStepEnds || run.run_over) return;
   if (started == Started::kNothing) ProveAgain();
+  context_.air.deck.clock().Start();  // also when nothing began: the time sums go by steps
   context_.air.EndStep();
 }
 
@@ -179,7 +180,12 @@ void PickListEngine::WriteRecord() {
   };
   bring_in_line(station_paths::kPikMode, run.PikModeValue);
   if (run.PikModeValue == "0") bring_in_line(station_paths::kStorePik, run.TemplateName);
-  OrEndProgram(WritePickListRecord(files, run.TemplateName, run.CurrentEvent));
+  // A full disk costs the restart its place in the list, and not the air.
+  const Status written = WritePickListRecord(files, run.TemplateName, run.CurrentEvent);
+  if (written.ok()) return;
+  const std::string row =
+      std::string(station_paths::kReset) + " = Not Written, Error " + std::to_string(written.number());
+  context_.air.faults.Add(row, ' ' + row);
 }
 
 void PickListEngine::CheckSpot() {

@@ -25,8 +25,9 @@ PickListPlayback::PickListPlayback(PickListForm1& screen)
                .air = OnAir(screen, {.mode = ModeLetter::kPickList,
                                      .channel_poll = kChannelPollTick,
                                      .together_seconds = kTogetherSeconds}),
-               .proof = ProofOfAiring(screen.platform(), ModeLetter::kPickList, screen.Switches,
-                                      [](const Status& written) { OrEndProgram(written); }),
+               .proof =
+                   ProofOfAiring(screen.platform(), ModeLetter::kPickList, screen.Switches,
+                                 [this](const Status& written) { context_.air.TellProofWritten(written); }),
                .events = {},
                .run = {}},
       engine_(context_),

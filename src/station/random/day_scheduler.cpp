@@ -57,9 +57,10 @@ void DayScheduler::PrepareTemplateChoice(bool restarted) {
   if (choice_prepared_) return;
   RandomForm1& screen = context_.screen;
   RandomRun& run = context_.run;
-  context_.air.status.Tell(
-      restarted ? "A problem occured and your system has been restarted..."
-                : "Select an Existing Template for Playback by Double Clicking or pressing <Enter>...");
+  if (!context_.air.deck.running()) {  // on the air the line tells the air; the frame speaks for itself
+    context_.air.status.Tell(restarted ? "A problem occured and your system has been restarted..."
+                                       : kChooseText);
+  }
   screen.Start.Disable();
   ShowLists();
   if (run.TemplateName.empty()) {

@@ -36,8 +36,9 @@ RandomPlayback::RandomPlayback(RandomForm1& screen)
                .air = OnAir(screen, {.mode = ModeLetter::kRandom,
                                      .channel_poll = kChannelPollTick,
                                      .together_seconds = kTogetherSeconds}),
-               .proof = ProofOfAiring(screen.platform(), ModeLetter::kRandom, screen.Switches,
-                                      [this](const Status& written) { TellProofWritten(written); }),
+               .proof =
+                   ProofOfAiring(screen.platform(), ModeLetter::kRandom, screen.Switches,
+                                 [this](const Status& written) { context_.air.TellProofWritten(written); }),
                .settings = {},
                .pools = {},
                .rotation = {},
@@ -50,18 +51,6 @@ RandomPlayback::RandomPlayback(RandomForm1& screen)
       overlap_(context_, engine_) {
   context_.air.deck.Observe(context_.proof);
   ConnectControls();
-}
-
-/// A full disk is told, and told no more when there is room again.
-void RandomPlayback::TellProofWritten(const Status& written) {
-  TextBox& warning = context_.screen.Text3;
-  if (written.error() == RunTimeError::kDiskFull) {
-    warning.SetText(kDriveFullWarning);
-    warning.Show();
-  } else if (written.ok() && warning.visible()) {
-    if (warning.text() == kDriveFullWarning) warning.SetText("");
-    warning.Hide();
-  }
 }
 
 OnAirStatus RandomPlayback::status() const {

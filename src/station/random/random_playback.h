@@ -33,7 +33,6 @@ class RandomPlayback {
 
  private:
   void ConnectControls();
-  void TellProofWritten(const Status& written);
   void PrepareScreen();
   bool LoadMusic();
   bool LoadLiners();

@@ -261,13 +261,18 @@ TEST_F(PickList, DateThatIsNone_EndsTheProgram) {
   EXPECT_NE(FileText("QXAIR/QXERROR.LOG").find("S1: start date soon is not a date"), std::string::npos);
 }
 
-TEST_F(PickList, DiskFull_EndsTheProgramUnlikeInRandom) {
-  station_.files().Fail(simulation::FileAct::kAppend, "*.LOG", RunTimeError::kDiskFull);
-  PutList({"M0001"});
+TEST_F(PickList, DiskFull_IsToldAndTheListGoesOn) {
+  std::filesystem::create_symlink("/dev/full", Host("QXTEMPLT/Sun.LOG"));
+  PutList({"M0001", "M0002"});
   OpenList();
-  Click(kPick, "Start", {"OK"});
-  EXPECT_FALSE(station_.running());
-  EXPECT_EQ(boxes().back().text, "Run-time error '61'");
+  std::filesystem::remove(Host("QXAIR/RESET.DTA"));
+  std::filesystem::create_symlink("/dev/full", Host("QXAIR/RESET.DTA"));
+  Click(kPick, "Start");
+  EXPECT_EQ(Shown(kPick, "Text3"), "WARNING: DRIVE C FULL - VERFICIATION LOGGING TERMINATED!");
+  EXPECT_TRUE(Find<TextBox>(kPick, "Text3").visible());
+  EXPECT_EQ(LastErrorRow(), "C:\\QXAIR\\RESET.DTA = Not Written, Error 61");
+  Advance(25s);
+  EXPECT_EQ(AiredIds(), (Ids{"M0001", "M0002"}));
 }
 
 TEST_F(PickList, DailyTemplate_GivesWayToTheNextDaysAtItsEnd) {
