@@ -116,7 +116,7 @@ void PickListPlayback::TakeRestartRecord() {
 
 /// On a restart the record tells what was playing; a screen opened beside the run may have handed over since.
 std::string PickListPlayback::ModeHandedOver() const {
-  const std::string mode = ReadSetting(context_.platform.files, station_paths::kPikMode).value_or("");
+  std::string mode = ReadSetting(context_.platform.files, station_paths::kPikMode).value_or("");
   if (!context_.run.AutoRestarted) return mode;
   const TemplateKind kind = KindOfTemplate(context_.run.TemplateName);
   if (kind == TemplateKind::kPickCustom || kind == TemplateKind::kPickDaily) return "0";
