@@ -107,9 +107,7 @@ std::string FaultOfTheProgram(const Witness& witness) {
 }
 
 std::string FaultEndsRun(const Witness& witness) {
-  const auto& box = witness.news().box;
-  if (!box || !witness.in_run() || !box->text.starts_with("Run-time error")) return {};
-  return box->text;
+  return witness.news().run_ended ? witness.told_error() : std::string();
 }
 
 /// A list may come to its end.

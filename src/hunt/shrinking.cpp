@@ -53,6 +53,15 @@ Script Shrunk(Script script, const std::function<bool(const Script&)>& breaks, s
     script = std::move(smaller);
     return true;
   };
+  // What comes behind the fault goes first.
+  std::size_t least = 1;
+  std::size_t enough = script.size();
+  while (least < enough && SteadyClock::now() < end) {
+    const std::size_t middle = (least + enough) / 2;
+    const bool broken = breaks(Script(script.begin(), script.begin() + static_cast<std::ptrdiff_t>(middle)));
+    (broken ? enough : least) = broken ? middle : middle + 1;
+  }
+  script.resize(enough);
   bool smaller = true;
   while (smaller && SteadyClock::now() < end) {
     smaller = false;

@@ -92,6 +92,7 @@ void Witness::Connect() {
   Also<const simulation::ShownBox&>(station_.dialogs().on_box, [this](const simulation::ShownBox& box) {
     box_open_ = false;
     news_.box = box;
+    if (box.text.starts_with("Run-time error")) told_error_ = box.text;
     Look(false);
   });
   Also<const std::string&>(station_.on_fault, [this](const std::string& what) {
@@ -113,6 +114,7 @@ void Witness::Connect() {
 
 void Witness::Begin(std::string_view statement) {
   cause_ = CauseOf(statement);
+  told_error_.clear();
   if (cause_ != Cause::kTime) changed_at_ = station_.time().Steady();
   const auto says = [&](std::string_view what) { return statement.find(what) != std::string_view::npos; };
   if (cause_ == Cause::kPowerCut) NotePowerCut();

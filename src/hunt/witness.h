@@ -107,6 +107,9 @@ class Witness {
   };
   const News& news() const { return news_; }
 
+  /// The last run-time error that a box has told since the statement began.
+  const std::string& told_error() const { return told_error_; }
+
   /// Rare things that have happened in this run.
   const std::set<std::string>& sometimes() const { return sometimes_; }
 
@@ -170,6 +173,7 @@ class Witness {
   SteadyTime failed_at_{};
   Cause cause_ = Cause::kNothing;
   News news_;
+  std::string told_error_;
   std::optional<BrokenOff> broken_off_;
   SteadyTime started_at_{};
   int restarts_ = 0;
