@@ -324,7 +324,9 @@ void Witness::CountSilence() {
 bool Witness::SilenceIsWanted(const OnAir& screen) const {
   if (screen.sounds() || screen.state == AirState::kPaused || screen.state == AirState::kLive) return true;
   if (screen.state == AirState::kSilent && SinceFailedOpen() < kTelling) return true;
+  if (box_open_) return true;  // which says why
   if (screen.mode == Mode::kRandom) return false;
+  if (Shown(Mode::kPickList, "GoLive") == "Cancel &Live") return true;
   // A list may stand at an event that is no recording, or whose data file is gone: it then waits for the operator.
   const std::string shown = Shown(Mode::kPickList, "CurrLabel(0)");
   const std::string id = FirstWord(shown);
