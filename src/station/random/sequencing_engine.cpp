@@ -16,7 +16,8 @@ SequencingEngine::SequencingEngine(RandomContext& context)
       stop_set_step_(context, [this] { PlayNextItem(); }) {}
 
 void SequencingEngine::PlayNextItem() {
-  if (depth_ >= kMaxNestedSteps) return;
+  if (depth_ == 0) steps_ = 0;
+  if (depth_ >= kMaxNestedSteps || ++steps_ > kMaxSteps) return;
   const NestedCall nested(depth_);
   Step();
 }

@@ -22,6 +22,8 @@ struct RandomContext;
 class SequencingEngine {
  public:
   static constexpr int kMaxNestedSteps = 25;
+  /// Of one call in all: a step may call itself twice, for a spot without its data file and then without audio.
+  static constexpr int kMaxSteps = 2 * kMaxNestedSteps;
 
   explicit SequencingEngine(RandomContext& context);
   void PlayNextItem();
@@ -43,6 +45,7 @@ class SequencingEngine {
   WorkingItem item_;  // what the last choice stood at; a choice may leave it as it is
   std::string last_item_id_;
   int depth_ = 0;
+  int steps_ = 0;
 };
 
 }  // namespace quixair

@@ -140,6 +140,21 @@ TEST_F(Rotation, WavIsTakenBeforeMp3) {
   for (const Aired& item : aired()) EXPECT_EQ(item.length, item.id == "M0001" ? 10000 : 7000);
 }
 
+TEST_F(Rotation, DriveGoneWithSpots_DoesNotFreezeTheWindow) {
+  AddLibrary(20, 3, 2, 10000);
+  AddSpot("S1", 10000);
+  PutRotation({"S1"});
+  PutSettings(
+      {.SongsPerLiner = 500, .SongsPerBreak = 1, .MaxSpotsPerBreak = 1, .LinerEnable = 1, .BreakType = 1});
+  StartRandom();
+  Advance(5s);
+  std::filesystem::rename(Host("QXWAVE"), Host("AWAY"));
+  std::filesystem::remove(Host("QXDATA/S1.DAT"));
+  const std::size_t before = aired().size();
+  Advance(6s);  // a step that called itself twice at each of 25 levels would never come back
+  EXPECT_LT(aired().size() - before, 400U);
+}
+
 TEST_F(Rotation, DriveGone_BoundsTheStepAndTheLogAndGoesOnWhenItIsBack) {
   AddLibrary(50, 3, 2, 10000);
   PutSettings(ParseRandomSettings(kTypical));
