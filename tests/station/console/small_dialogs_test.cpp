@@ -1,8 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <set>
-
-#include "station/platform/text.h"
 #include "support/station_fixture.h"
 
 namespace quixair::testing {
@@ -173,18 +170,6 @@ TEST_F(HelpScreen, EachButton_OpensItsDocumentOrNamesTheOneThatIsNotThere) {
     Click("QXHelp", button);
     EXPECT_THAT(runs_, ElementsAre("C:\\Program Files\\Accessories\\WordPad.exe " + path));
   }
-}
-
-TEST_F(HelpScreen, NoTwoButtonsShareAnAccessKey) {
-  OpenByMenu("UserManua");
-  std::set<char> keys;
-  for (const Control* control : station_.FindScreen("QXHelp")->controls()) {
-    const std::string caption = control->shown_text();
-    const std::size_t mark = caption.find('&');
-    ASSERT_NE(mark, std::string::npos) << caption;
-    EXPECT_TRUE(keys.insert(UpperCased(caption.at(mark + 1))).second) << caption;
-  }
-  EXPECT_EQ(keys.size(), std::size(kDocuments) + 1);
 }
 
 class AboutScreen : public SmallDialogs {

@@ -34,12 +34,6 @@ TEST(DrivesTable, Lines_AreEntriesOrPassedOver) {
   }
 }
 
-TEST(DrivesTable, LaterLines_Count) {
-  const Drives drives = Drives::Parse("C = /one\n\nnonsense\nD = /two\nC = /three", "/");
-  EXPECT_EQ(drives.Directory('C'), "/three");
-  EXPECT_EQ(drives.Directory('D'), "/two");
-}
-
 TEST(DrivesTable, MissingFile_IsMadeWithDriveCInTheHomeFolder) {
   const TemporaryFolder home;
   const auto file = home.path() / "config" / "quixair" / "drives.conf";

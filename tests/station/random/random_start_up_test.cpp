@@ -113,21 +113,6 @@ TEST_F(RandomStartUp, Switches_AreShownAsTheirFilesSay) {
   }
 }
 
-TEST_F(RandomStartUp, SwitchesTicked_AreStoredAtOnce) {
-  AddLibrary(3, 2, 2);
-  StartAt("RandomPlaybackMode");
-  Find<CheckBox>("RandomForm1", "Check2").PersonTicks(false);
-  EXPECT_EQ(FileText("QXAIR/RNDVERLG.DTA"), "1\r\n");
-  EXPECT_EQ(Shown("RandomForm1", "Check2"), "Verification Log: OFF");
-  Find<CheckBox>("RandomForm1", "Check2").PersonTicks(true);
-  EXPECT_EQ(FileText("QXAIR/RNDVERLG.DTA"), "0\r\n");
-  Find<CheckBox>("RandomForm1", "Check3").PersonTicks(true);
-  EXPECT_EQ(FileText("QXAIR/RNDPNEXT.DTA"), "1\r\n");
-  Find<CheckBox>("RandomForm1", "Check4").PersonTicks(true);
-  EXPECT_EQ(FileText("QXAIR/SPOTDRST.DTA"), "\"1\"\r\n");
-  EXPECT_EQ(Shown("RandomForm1", "Check4"), "Spot Date Check: ON");
-}
-
 TEST_F(RandomStartUp, RunningRecord_StartsByItselfBeforeTheRotationFileIsRead) {
   AddLibrary(3, 2, 2);
   AddSpot("S1", 3000);
