@@ -3,6 +3,7 @@
 #include "station/console/station_paths.h"
 #include "station/platform/dialogs.h"
 #include "station/platform/programs.h"
+
 namespace quixair {
 
 PlaybackScreen::PlaybackScreen(const Platform& platform, const Names& names)

@@ -241,8 +241,7 @@ void PickListEngine::PassOverSpot() {
     return;
   }
   run.ExpiredSkipCount = 0;
-  context_.screen.Text1.SetBackColor(kYellow);
-  context_.air.status.Tell("Endless Loop Aborted: This EXPIRED spot will not play. Press END RUN now!");
+  context_.air.status.Warn("Endless Loop Aborted: This EXPIRED spot will not play. Press END RUN now!");
   LeaveStep(whole_round ? kSecondsBetweenRounds : kSecondsUntilGoingOn);
 }
 

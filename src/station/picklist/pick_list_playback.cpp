@@ -221,7 +221,7 @@ void PickListPlayback::FillLists() {
   screen.Check1.SetCaption(run.RepeatOn ? "Repeat: ON" : "Repeat: OFF");
   screen.Overlap.Allow(context_.events.EventCount() != 1);
   if (!run.NextDayLoad) screen.List6.AddFault("-- error log --");
-  context_.air.status.Tell("Ready to Begin Playback.  Press START to begin, or QUIT to Exit");
+  context_.air.status.Tell(status_text::kReady);
 }
 
 void PickListPlayback::StartByItself() {

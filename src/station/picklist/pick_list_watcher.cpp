@@ -26,7 +26,10 @@ void PickListWatcher::Tick() {
   }
   run.ElapsedSecs = deck_.elapsed();
   context_.air.ShowElapsed();
-  if (deck_.AudioPaused()) return;
+  if (deck_.AudioPaused()) {
+    context_.air.Guard(true, {});  // a silence goes on from here
+    return;
+  }
   engine_.GoOnWhereLeft();
   ShowTotals();
   WatchChannels();

@@ -25,7 +25,10 @@ void ChannelWatcher::Tick() {
     controls_.Pause();
   }
   context_.air.ShowElapsed();
-  if (WaitWhilePaused()) return;
+  if (WaitWhilePaused()) {
+    context_.air.Guard(true, {});  // a silence goes on from here
+    return;
+  }
   RetireFirstAfterOverlap();
   HandBack();
   StartWhenBothClosed();

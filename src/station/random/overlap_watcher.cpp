@@ -6,6 +6,7 @@
 #include "station/random/sequencing_engine.h"
 
 namespace quixair {
+
 void OverlapWatcher::Tick() {
   Deck& deck = context_.air.deck;
   context_.air.AbortCompeting();

@@ -160,6 +160,19 @@ TEST_F(PickList, LocalBreakStandsAndALostDataFileIsLeftToTheGuardWithAnOverlapTo
   }
 }
 
+TEST_F(PickList, PauseInASilence_IsNoPartOfItForTheGuard) {
+  PutList({"M0001", "MGONE", "M0002"});
+  StartList();
+  Advance(23s);
+  Click(kPick, "PauseCommand");
+  Advance(1min);
+  Click(kPick, "ContinueCommand");
+  Advance(1s);
+  EXPECT_EQ(AiredIds(), Ids{"M0001"});
+  Advance(5s);
+  EXPECT_EQ(LastErrorRow(), "Silent for 5 seconds, went on with M0002");
+}
+
 TEST_F(PickList, RestartAfterAMenuActInTheRun_PlaysWhatTheRecordNames) {
   PutFile("QXAIR/RESETON.DTA", "\"1\"\r\n");
   PutTemplate("B.TPP", {"M0005", "M0006", "M0007"});
